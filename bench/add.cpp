@@ -129,6 +129,8 @@ void addPointer(const char* form, int n, bool isSecondArray, Calls calls, Pair p
   entry.figures = {{"scattered", "scattered", "lib"}};
   entry.prepare = [lists, n, isSecondArray](const Block& b) { makeLists<T>(*lists, b, n * n, isSecondArray); };
   add(entry);
+  if (n == 4)
+    add(entry, "4096", 4096); // runs at a distance of whole pages: the worst place for caches
 }
 
 #define POINTER_PAIR(function)                                                                                         \

@@ -5,16 +5,25 @@
 
 #include <iterator>
 
+// Without this g++ leaves one vector an iteration, and the loop's place in the code decides how fast it is.
+#ifdef __clang__
+#  define UNROLLED _Pragma("unroll 4")
+#else
+#  define UNROLLED _Pragma("GCC unroll 4")
+#endif
+
 namespace {
 
 template <class T>
 void twoSources(const T* __restrict src1, const T* __restrict src2, T* __restrict dst, std::ptrdiff_t count) {
+  UNROLLED
   for (std::ptrdiff_t i = 0; i < count; ++i)
     dst[i] = src1[i] + src2[i];
 }
 
 template <class T>
 void oneSource(const T* __restrict src, T value, T* __restrict dst, std::ptrdiff_t count) {
+  UNROLLED
   for (std::ptrdiff_t i = 0; i < count; ++i)
     dst[i] = src[i] + value;
 }
