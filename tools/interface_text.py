@@ -18,7 +18,7 @@ extern "C" {
 #endif
 
 #if defined(__GNUC__)
-#pragma GCC visibility push(default)
+#  pragma GCC visibility push(default)
 #endif
 """
 
@@ -64,7 +64,7 @@ typedef struct ZelLibVersion {
 
 HEADER_BOTTOM = """\
 #if defined(__GNUC__)
-#pragma GCC visibility pop
+#  pragma GCC visibility pop
 #endif
 
 #ifdef __cplusplus

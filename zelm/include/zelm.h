@@ -12,7 +12,7 @@ extern "C" {
 #endif
 
 #if defined(__GNUC__)
-#pragma GCC visibility push(default)
+#  pragma GCC visibility push(default)
 #endif
 
 /**
@@ -387,7 +387,7 @@ ZelStatus zelmAdd_tata_64f_P(const Zel64f* const* src1, int32_t src1Shift, int32
 /** @} */
 
 #if defined(__GNUC__)
-#pragma GCC visibility pop
+#  pragma GCC visibility pop
 #endif
 
 #ifdef __cplusplus
