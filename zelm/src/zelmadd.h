@@ -1,0 +1,37 @@
+// Add on matrices: dst(i, j) = src1(i, j) + src2(i, j).
+#pragma once
+
+#include "zelmelementwise.h"
+
+namespace zelm {
+
+struct Plus {
+  template <class V>
+  ZELM_INLINE V operator()(V a, V b) const {
+    return a + b;
+  }
+};
+
+// Single objects.
+template <int... N, class A, class B, class D>
+ZELM_INLINE ZelStatus addMatrices(Sizes<N...> sizes, const A& src1, const B& src2, const D& dst, int32_t width,
+                                  int32_t height) {
+  return combineObjects(sizes, Plus{}, src1, src2, dst, width, height, 1);
+}
+
+// Batches.
+template <int... N, class A, class B, class D>
+ZELM_INLINE ZelStatus addMatrices(Sizes<N...> sizes, const A& src1, const B& src2, const D& dst, int32_t width,
+                                  int32_t height, int32_t count) {
+  return combineObjects(sizes, Plus{}, src1, src2, dst, width, height, count);
+}
+
+// Pointer layout: one code for all sizes.
+struct AnySize {};
+template <class A, class B, class D>
+inline ZelStatus addPositions(AnySize, const A& src1, const B& src2, const D& dst, int32_t width, int32_t height,
+                              int32_t count = 1) {
+  return combinePositions(Plus{}, src1, src2, dst, width, height, count);
+}
+
+} // namespace zelm

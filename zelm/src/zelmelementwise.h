@@ -1,0 +1,359 @@
+// Element-wise work on matrices: dst(i, j) = op(src1(i, j), src2(i, j)) for a family's op.
+//
+// Each result element depends on one element of each source, so loops run in whatever order is fastest. In place works
+// wherever a source is untransposed and lies exactly where dst does.
+#pragma once
+
+#include "zelmkernel.h"
+#include "zelmlane.h"
+
+namespace zelm {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Runs: elements that lie one behind the other, on vectors. Four vectors are read before the first is written.
+
+// Elements of a run left before dst is aligned to a vector; -1 if it never is.
+template <class T>
+ZELM_INLINE int64_t elementsToAlignment(const char* dst) {
+  const auto beyond = reinterpret_cast<std::uintptr_t>(dst) % vectorBytes;
+  if (beyond % sizeof(T) != 0)
+    return -1;
+  return beyond == 0 ? 0 : static_cast<int64_t>((vectorBytes - beyond) / sizeof(T));
+}
+
+template <bool Stream, class V>
+ZELM_INLINE void putLanes(char* address, const V& v) {
+  if constexpr (Stream)
+    streamLanes(address, v);
+  else
+    storeLanes(address, v);
+}
+
+// dst[e] = op(a[e], b[e]) for elements e from `first` on, whole vectors only; returns the first element not done.
+template <class T, bool Stream, class Op>
+ZELM_INLINE int64_t runVectors(Op op, char* dst, const char* a, const char* b, int64_t first, int64_t n) {
+  constexpr int64_t W = laneCount<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  int64_t e = first;
+  for (; e + 4 * W <= n; e += 4 * W) {
+    const auto v0 = op(loadLanes<T>(a + e * E), loadLanes<T>(b + e * E));
+    const auto v1 = op(loadLanes<T>(a + (e + W) * E), loadLanes<T>(b + (e + W) * E));
+    const auto v2 = op(loadLanes<T>(a + (e + 2 * W) * E), loadLanes<T>(b + (e + 2 * W) * E));
+    const auto v3 = op(loadLanes<T>(a + (e + 3 * W) * E), loadLanes<T>(b + (e + 3 * W) * E));
+    putLanes<Stream>(dst + e * E, v0);
+    putLanes<Stream>(dst + (e + W) * E, v1);
+    putLanes<Stream>(dst + (e + 2 * W) * E, v2);
+    putLanes<Stream>(dst + (e + 3 * W) * E, v3);
+  }
+  for (; e + W <= n; e += W)
+    putLanes<Stream>(dst + e * E, op(loadLanes<T>(a + e * E), loadLanes<T>(b + e * E)));
+  return e;
+}
+
+template <class T, class Op>
+ZELM_INLINE void runElements(Op op, char* dst, const char* a, const char* b, int64_t first, int64_t end) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  for (int64_t e = first; e < end; ++e)
+    storeElement<T>(dst + e * E, op(loadElement<T>(a + e * E), loadElement<T>(b + e * E)));
+}
+
+// dst[e] = op(a[e], b[e]) for n elements.
+template <class T, class Op>
+inline void runPair(Op op, char* dst, const char* a, const char* b, int64_t n) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  const int64_t lead = elementsToAlignment<T>(dst);
+  int64_t e = 0;
+  if (n * E >= streamingBytes && lead >= 0 && dst != a && dst != b) {
+    runElements<T>(op, dst, a, b, 0, lead);
+    e = runVectors<T, true>(op, dst, a, b, lead, n);
+    _mm_sfence();
+  } else {
+    e = runVectors<T, false>(op, dst, a, b, 0, n);
+  }
+  runElements<T>(op, dst, a, b, e, n);
+}
+
+// The longest object whose constant operand is laid out as a period.
+constexpr int longestPeriod = 64;
+
+// dst[e] = op(a[e], b[e % period]) for n elements, n a multiple of the period.
+template <class T, class Op>
+inline void runPeriod(Op op, char* dst, const char* a, const char* b, int32_t period, int64_t n) {
+  constexpr int W = laneCount<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  // The period repeated until it is a whole number of vectors, at least four.
+  char pattern[(longestPeriod * W + W) * sizeof(T)];
+  int64_t length = period;
+  std::memcpy(pattern, b, static_cast<std::size_t>(period * E));
+  while (length % W != 0 || length < 4 * W) {
+    std::memcpy(pattern + length * E, pattern, static_cast<std::size_t>(length * E));
+    length *= 2;
+  }
+  // Streamed vectors start where dst is aligned, which is somewhere inside the pattern.
+  const int64_t lead = elementsToAlignment<T>(dst);
+  const bool stream = n * E >= streamingBytes && lead >= 0 && dst != a;
+  const int64_t phase = stream ? lead : 0;
+  std::memcpy(pattern + length * E, pattern, static_cast<std::size_t>(phase * E));
+  const char* const shifted = pattern + phase * E;
+  runElements<T>(op, dst, a, pattern, 0, phase);
+  int64_t e = phase;
+  for (; e + length <= n; e += length) {
+    if (stream)
+      runVectors<T, true>(op, dst + e * E, a + e * E, shifted, 0, length);
+    else
+      runVectors<T, false>(op, dst + e * E, a + e * E, shifted, 0, length);
+  }
+  if (stream)
+    _mm_sfence();
+  const int64_t rest = runVectors<T, false>(op, dst + e * E, a + e * E, shifted, 0, n - e);
+  runElements<T>(op, dst + e * E, a + e * E, shifted, rest, n - e);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// One object of a fixed size, in registers
+
+template <int Bytes>
+struct FixedStep {
+  constexpr operator int64_t() const { return Bytes; }
+};
+
+// A W by W block of lanes, one vector a row.
+template <class T, int W>
+struct Block {
+  Lanes<T, W> row[W];
+};
+
+template <class T>
+ZELM_INLINE void transposeBlock(Block<T, 2>& b) {
+  const auto r0 = b.row[0];
+  const auto r1 = b.row[1];
+  b.row[0] = __builtin_shufflevector(r0, r1, 0, 2);
+  b.row[1] = __builtin_shufflevector(r0, r1, 1, 3);
+}
+template <class T>
+ZELM_INLINE void transposeBlock(Block<T, 4>& b) {
+  const auto a0 = __builtin_shufflevector(b.row[0], b.row[1], 0, 4, 1, 5);
+  const auto a1 = __builtin_shufflevector(b.row[0], b.row[1], 2, 6, 3, 7);
+  const auto a2 = __builtin_shufflevector(b.row[2], b.row[3], 0, 4, 1, 5);
+  const auto a3 = __builtin_shufflevector(b.row[2], b.row[3], 2, 6, 3, 7);
+  b.row[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
+  b.row[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
+  b.row[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
+  b.row[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+}
+
+// The W by W block of a view at (i, j), one row of it a vector, and its transposition into that form.
+template <int W, class View>
+ZELM_INLINE auto loadBlock(const View& x, int64_t i, int64_t j) {
+  using T = typename View::Element;
+  Block<T, W> block;
+  for (int r = 0; r < W; ++r)
+    block.row[r] = loadLanes<T, W>(View::unitRows ? x.address(i + r, j) : x.address(i, j + r));
+  if constexpr (!View::unitRows)
+    transposeBlock<T>(block);
+  return block;
+}
+
+// W neighbours of row i from column j on.
+template <int W, class View>
+ZELM_INLINE auto loadRow(const View& x, int64_t i, int64_t j) {
+  using T = typename View::Element;
+  if constexpr (View::unitRows) {
+    return loadLanes<T, W>(x.address(i, j));
+  } else {
+    Lanes<T, W> v;
+    for (int c = 0; c < W; ++c)
+      v[c] = x.load(i, j + c);
+    return v;
+  }
+}
+
+// dst = op(a, b) on rows by columns elements at (i, j), in blocks of W and, at the edges, smaller ones. The elements of
+// each operand are neighbours along rows or along columns.
+template <int W, int Rows, int Columns, class Op, class D, class A, class B>
+ZELM_INLINE void combineRegion(Op op, const D& dst, const A& a, const B& b, int64_t i, int64_t j) {
+  if constexpr (Rows > 0 && Columns > 0) {
+    if constexpr (W == 1) {
+      for (int r = 0; r < Rows; ++r)
+        for (int c = 0; c < Columns; ++c)
+          dst.store(i + r, j + c, op(a.load(i + r, j + c), b.load(i + r, j + c)));
+    } else if constexpr (Columns < W) {
+      combineRegion<W / 2, Rows, Columns>(op, dst, a, b, i, j);
+    } else if constexpr (Columns > W) {
+      combineRegion<W, Rows, W>(op, dst, a, b, i, j);
+      combineRegion<W, Rows, Columns - W>(op, dst, a, b, i, j + W);
+    } else if constexpr (A::unitRows && B::unitRows) {
+      for (int r = 0; r < Rows; ++r)
+        storeLanes(dst.address(i + r, j), op(loadRow<W>(a, i + r, j), loadRow<W>(b, i + r, j)));
+    } else if constexpr (Rows >= W) {
+      const auto blockA = loadBlock<W>(a, i, j);
+      const auto blockB = loadBlock<W>(b, i, j);
+      for (int r = 0; r < W; ++r)
+        storeLanes(dst.address(i + r, j), op(blockA.row[r], blockB.row[r]));
+      combineRegion<W, Rows - W, Columns>(op, dst, a, b, i + W, j);
+    } else if constexpr (Rows >= W / 2 && W > 2) {
+      combineRegion<W / 2, Rows, Columns>(op, dst, a, b, i, j);
+    } else {
+      for (int r = 0; r < Rows; ++r)
+        storeLanes(dst.address(i + r, j), op(loadRow<W>(a, i + r, j), loadRow<W>(b, i + r, j)));
+    }
+  }
+}
+
+template <int N, class Op, class D, class A, class B>
+ZELM_INLINE void combineFixed(Op op, const D& dst, const A& a, const B& b) {
+  if constexpr (D::unitRows && (A::unitRows || A::unitColumns) && (B::unitRows || B::unitColumns))
+    combineRegion<(laneCount<typename D::Element> < 4 ? laneCount<typename D::Element> : 4), N, N>(op, dst, a, b, 0, 0);
+  else
+    combineRegion<1, N, N>(op, dst, a, b, 0, 0);
+}
+
+// One object of any size.
+template <class Op, class D, class A, class B>
+inline void combineGeneral(Op op, const D& dst, const A& a, const B& b, int32_t width, int32_t height) {
+  using T = typename D::Element;
+  for (int32_t i = 0; i < height; ++i) {
+    if constexpr (D::unitRows && A::unitRows && B::unitRows) {
+      runPair<T>(op, dst.address(i, 0), a.address(i, 0), b.address(i, 0), width);
+    } else {
+      for (int32_t j = 0; j < width; ++j)
+        dst.store(i, j, op(a.load(i, j), b.load(i, j)));
+    }
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Batches
+
+// Object k of an operand of width by height elements as the operation sees them.
+template <class Operand>
+ZELM_INLINE auto objectOf(const Operand& x, int64_t k, int32_t width, int32_t height) {
+  return x.object(k, isTransposed<Operand> ? height : width);
+}
+
+template <class>
+constexpr bool isUnitStandard = false;
+template <class T>
+constexpr bool isUnitStandard<Matrix<T, UnitStride>> = true;
+template <class T>
+constexpr bool isUnitStandard<Matrices<T, UnitStride>> = true;
+
+// A single source of width by height elements without gaps, for a batch.
+template <class T, int N>
+struct LocalMatrix {
+  alignas(vectorBytes) T element[N * N];
+  template <class View>
+  ZELM_INLINE explicit LocalMatrix(const View& x) {
+    for (int i = 0; i < N; ++i)
+      for (int j = 0; j < N; ++j)
+        element[i * N + j] = x.load(i, j);
+  }
+  ZELM_INLINE auto view() const {
+    return StridedMatrixView<const T, FixedStep<N* static_cast<int>(sizeof(T))>, UnitStep<const T>>{
+        reinterpret_cast<const char*>(element), {}, {}};
+  }
+};
+
+// Standard and list layout, all objects, side N.
+template <int N, class Op, class A, class B, class D>
+ZELM_INLINE void combineBatchFixed(Op op, const A& src1, const B& src2, const D& dst, int32_t count) {
+  using T = typename D::Element;
+  if constexpr (D::isArray && !B::isArray) {
+    const LocalMatrix<T, N> local(objectOf(src2, 0, N, N));
+    for (int32_t k = 0; k < count; ++k)
+      combineFixed<N>(op, objectOf(dst, k, N, N), objectOf(src1, k, N, N), local.view());
+  } else {
+    for (int32_t k = 0; k < count; ++k)
+      combineFixed<N>(op, objectOf(dst, k, N, N), objectOf(src1, k, N, N), objectOf(src2, k, N, N));
+  }
+}
+
+// Standard and list layout. Sources and results without any gaps are one run of elements.
+template <int... N, class Op, class A, class B, class D>
+ZELM_INLINE ZelStatus combineObjects(Sizes<N...> sizes, Op op, const A& src1, const B& src2, const D& dst,
+                                     int32_t width, int32_t height, int32_t count) {
+  using T = typename D::Element;
+  if constexpr (isUnitStandard<A> && isUnitStandard<B> && isUnitStandard<D>) {
+    if (src1.packed(width, height) && src2.packed(width, height) && dst.packed(width, height)) {
+      const int64_t each = static_cast<int64_t>(width) * height;
+      auto* const result = reinterpret_cast<char*>(dst.pointer);
+      const auto* const a = reinterpret_cast<const char*>(src1.pointer);
+      const auto* const b = reinterpret_cast<const char*>(src2.pointer);
+      if constexpr (B::isArray || !D::isArray) {
+        runPair<T>(op, result, a, b, each * count);
+        return zelStatusOk;
+      } else if (each <= longestPeriod && count >= laneCount<T>) {
+        runPeriod<T>(op, result, a, b, static_cast<int32_t>(each), each * count);
+        return zelStatusOk;
+      }
+    }
+  }
+  return forSize(
+      sizes, width == height ? width : 0,
+      [&](auto side) {
+        combineBatchFixed<side>(op, src1, src2, dst, count);
+        return zelStatusOk;
+      },
+      [&] {
+        for (int32_t k = 0; k < count; ++k)
+          combineGeneral(op, objectOf(dst, k, width, height), objectOf(src1, k, width, height),
+                         objectOf(src2, k, width, height), width, height);
+        return zelStatusOk;
+      });
+}
+
+// Elements at one position of n objects: the addresses and the distances from object to object.
+template <class T, class Op>
+ZELM_INLINE void combinePosition(Op op, char* dst, int64_t dstStep, const char* a, int64_t aStep, const char* b,
+                                 int64_t bStep, int64_t n) {
+  for (int64_t k = 0; k < n; ++k)
+    storeElement<T>(dst + k * dstStep, op(loadElement<T>(a + k * aStep), loadElement<T>(b + k * bStep)));
+}
+
+// The same for neighbours: W objects a vector; a step of 0 is the single operand.
+template <class T, bool SingleB, class Op>
+ZELM_INLINE void combineNeighbours(Op op, char* dst, const char* a, const char* b, int64_t n) {
+  if constexpr (SingleB) {
+    const T constant = loadElement<T>(b);
+    constexpr auto E = static_cast<int64_t>(sizeof(T));
+    constexpr int64_t W = laneCount<T>;
+    const Lanes<T> lanes = constant - Lanes<T>{};
+    int64_t k = 0;
+    for (; k + W <= n; k += W)
+      storeLanes(dst + k * E, op(loadLanes<T>(a + k * E), lanes));
+    for (; k < n; ++k)
+      storeElement<T>(dst + k * E, op(loadElement<T>(a + k * E), constant));
+  } else {
+    runElements<T>(op, dst, a, b, runVectors<T, false>(op, dst, a, b, 0, n), n);
+  }
+}
+
+// Pointer layout: a tile of a few hundred objects is walked position by position, so that few streams are open at a
+// time. Any size needs the same code.
+template <class Op, class A, class B, class D>
+inline ZelStatus combinePositions(Op op, const A& src1, const B& src2, const D& dst, int32_t width, int32_t height,
+                                  int32_t count) {
+  using T = typename D::Element;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  constexpr int64_t tile = 1024 / E;
+  const int64_t aStep = src1.objectStride();
+  const int64_t bStep = src2.objectStride();
+  const int64_t dStep = dst.objectStride();
+  const bool neighbours = dStep == E && aStep == E && (bStep == E || !B::isArray);
+  for (int64_t k = 0; k < count; k += tile) {
+    const int64_t n = count - k < tile ? count - k : tile;
+    const auto a = objectOf(src1, k, width, height);
+    const auto b = objectOf(src2, k, width, height);
+    const auto d = objectOf(dst, k, width, height);
+    for (int32_t i = 0; i < height; ++i)
+      for (int32_t j = 0; j < width; ++j) {
+        if (neighbours)
+          combineNeighbours<T, !B::isArray>(op, d.address(i, j), a.address(i, j), b.address(i, j), n);
+        else
+          combinePosition<T>(op, d.address(i, j), dStep, a.address(i, j), aStep, b.address(i, j), bStep, n);
+      }
+  }
+  return zelStatusOk;
+}
+
+} // namespace zelm

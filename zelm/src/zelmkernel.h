@@ -1,0 +1,53 @@
+// Rows of kernels, and the entry report of the test builds.
+#pragma once
+
+#include "zelmsignature.h"
+
+extern "C" int32_t ownGetNumThreads();
+extern "C" void zelGetMaxCacheSizeB(int32_t* bytes);
+
+#ifdef ZELM_COUNT_ENTRIES
+extern "C" void zelmtestEntered(const char* name);
+#  define ZELM_ENTER(NAME) zelmtestEntered(#  NAME)
+#else
+#  define ZELM_ENTER(NAME) static_cast<void>(0)
+#endif
+
+namespace zelm {
+
+// The sizes for which a kernel has straight-line code.
+template <int... N>
+struct Sizes {};
+
+// Calls fixed(std::integral_constant<int, N>) for the N of the list that size equals, otherwise general().
+template <class Fixed, class General>
+ZELM_INLINE ZelStatus forSize(Sizes<>, int32_t, const Fixed&, const General& general) {
+  return general();
+}
+template <int First, int... Rest, class Fixed, class General>
+ZELM_INLINE ZelStatus forSize(Sizes<First, Rest...>, int32_t size, const Fixed& fixed, const General& general) {
+  return size == First ? fixed(std::integral_constant<int, First>{}) : forSize(Sizes<Rest...>{}, size, fixed, general);
+}
+
+} // namespace zelm
+
+#define ZELM_DECLARE(NAMED, SIG, V, T) extern "C" ZelStatus NAMED(SIG(V, T))
+
+// A kernel is its arguments handed to a body: BODY(operands..., sizes..., count). V is UNIT or ANY; a last argument,
+// the list of straight-line sizes, stands in the row where the body takes one.
+#define KERNEL(KERNEL_NAME, SIG, V, T, BODY, ...)                                                                      \
+  extern "C" ZelStatus KERNEL_NAME(SIG(V, T)) {                                                                        \
+    ZELM_ENTER(KERNEL_NAME);                                                                                           \
+    return zelm::BODY(zelm::__VA_ARGS__{}, SIG(NAME, T));                                                              \
+  }
+
+// A kernel of the list layout that calls the kernel of the single object for each object, up to the first failure.
+#define KERNEL_PER_OBJECT(KERNEL_NAME, SIG, V, T, SINGLE_SIG, SINGLE_KERNEL)                                           \
+  ZELM_DECLARE(SINGLE_KERNEL, SINGLE_SIG, V, T);                                                                       \
+  extern "C" ZelStatus KERNEL_NAME(SIG(V, T)) {                                                                        \
+    ZELM_ENTER(KERNEL_NAME);                                                                                           \
+    for (int32_t k = 0; k < count; ++k)                                                                                \
+      if (const ZelStatus status = SINGLE_KERNEL(SINGLE_SIG(OBJECT, T)); status != zelStatusOk)                        \
+        return status;                                                                                                 \
+    return zelStatusOk;                                                                                                \
+  }
