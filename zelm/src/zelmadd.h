@@ -6,10 +6,7 @@
 namespace zelm {
 
 struct Plus {
-  template <class V>
-  ZELM_INLINE V operator()(V a, V b) const {
-    return a + b;
-  }
+  template <class V> ZELM_INLINE V operator()(V a, V b) const { return a + b; }
 };
 
 // Single objects.

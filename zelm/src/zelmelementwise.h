@@ -13,16 +13,14 @@ namespace zelm {
 // Runs: elements that lie one behind the other, on vectors. Four vectors are read before the first is written.
 
 // Elements of a run left before dst is aligned to a vector; -1 if it never is.
-template <class T>
-ZELM_INLINE int64_t elementsToAlignment(const char* dst) {
+template <class T> ZELM_INLINE int64_t elementsToAlignment(const char* dst) {
   const auto beyond = reinterpret_cast<std::uintptr_t>(dst) % vectorBytes;
   if (beyond % sizeof(T) != 0)
     return -1;
   return beyond == 0 ? 0 : static_cast<int64_t>((vectorBytes - beyond) / sizeof(T));
 }
 
-template <bool Stream, class V>
-ZELM_INLINE void putLanes(char* address, const V& v) {
+template <bool Stream, class V> ZELM_INLINE void putLanes(char* address, const V& v) {
   if constexpr (Stream)
     streamLanes(address, v);
   else
@@ -58,8 +56,7 @@ ZELM_INLINE void runElements(Op op, char* dst, const char* a, const char* b, int
 }
 
 // dst[e] = op(a[e], b[e]) for n elements.
-template <class T, class Op>
-inline void runPair(Op op, char* dst, const char* a, const char* b, int64_t n) {
+template <class T, class Op> inline void runPair(Op op, char* dst, const char* a, const char* b, int64_t n) {
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   const int64_t lead = elementsToAlignment<T>(dst);
   int64_t e = 0;
@@ -112,26 +109,20 @@ inline void runPeriod(Op op, char* dst, const char* a, const char* b, int32_t pe
 // ---------------------------------------------------------------------------------------------------------------------
 // One object of a fixed size, in registers
 
-template <int Bytes>
-struct FixedStep {
+template <int Bytes> struct FixedStep {
   constexpr operator int64_t() const { return Bytes; }
 };
 
 // A W by W block of lanes, one vector a row.
-template <class T, int W>
-struct Block {
-  Lanes<T, W> row[W];
-};
+template <class T, int W> struct Block { Lanes<T, W> row[W]; };
 
-template <class T>
-ZELM_INLINE void transposeBlock(Block<T, 2>& b) {
+template <class T> ZELM_INLINE void transposeBlock(Block<T, 2>& b) {
   const auto r0 = b.row[0];
   const auto r1 = b.row[1];
   b.row[0] = __builtin_shufflevector(r0, r1, 0, 2);
   b.row[1] = __builtin_shufflevector(r0, r1, 1, 3);
 }
-template <class T>
-ZELM_INLINE void transposeBlock(Block<T, 4>& b) {
+template <class T> ZELM_INLINE void transposeBlock(Block<T, 4>& b) {
   const auto a0 = __builtin_shufflevector(b.row[0], b.row[1], 0, 4, 1, 5);
   const auto a1 = __builtin_shufflevector(b.row[0], b.row[1], 2, 6, 3, 7);
   const auto a2 = __builtin_shufflevector(b.row[2], b.row[3], 0, 4, 1, 5);
@@ -143,10 +134,10 @@ ZELM_INLINE void transposeBlock(Block<T, 4>& b) {
 }
 
 // The W by W block of a view at (i, j), one row of it a vector, and its transposition into that form.
-template <int W, class View>
-ZELM_INLINE auto loadBlock(const View& x, int64_t i, int64_t j) {
+template <int W, class View> ZELM_INLINE auto loadBlock(const View& x, int64_t i, int64_t j) {
   using T = typename View::Element;
   Block<T, W> block;
+  ZELM_UNROLL
   for (int r = 0; r < W; ++r)
     block.row[r] = loadLanes<T, W>(View::unitRows ? x.address(i + r, j) : x.address(i, j + r));
   if constexpr (!View::unitRows)
@@ -155,13 +146,13 @@ ZELM_INLINE auto loadBlock(const View& x, int64_t i, int64_t j) {
 }
 
 // W neighbours of row i from column j on.
-template <int W, class View>
-ZELM_INLINE auto loadRow(const View& x, int64_t i, int64_t j) {
+template <int W, class View> ZELM_INLINE auto loadRow(const View& x, int64_t i, int64_t j) {
   using T = typename View::Element;
   if constexpr (View::unitRows) {
     return loadLanes<T, W>(x.address(i, j));
   } else {
     Lanes<T, W> v;
+    ZELM_UNROLL
     for (int c = 0; c < W; ++c)
       v[c] = x.load(i, j + c);
     return v;
@@ -174,26 +165,31 @@ template <int W, int Rows, int Columns, class Op, class D, class A, class B>
 ZELM_INLINE void combineRegion(Op op, const D& dst, const A& a, const B& b, int64_t i, int64_t j) {
   if constexpr (Rows > 0 && Columns > 0) {
     if constexpr (W == 1) {
+      ZELM_UNROLL
       for (int r = 0; r < Rows; ++r)
-        for (int c = 0; c < Columns; ++c)
-          dst.store(i + r, j + c, op(a.load(i + r, j + c), b.load(i + r, j + c)));
+        ZELM_UNROLL
+      for (int c = 0; c < Columns; ++c)
+        dst.store(i + r, j + c, op(a.load(i + r, j + c), b.load(i + r, j + c)));
     } else if constexpr (Columns < W) {
       combineRegion<W / 2, Rows, Columns>(op, dst, a, b, i, j);
     } else if constexpr (Columns > W) {
       combineRegion<W, Rows, W>(op, dst, a, b, i, j);
       combineRegion<W, Rows, Columns - W>(op, dst, a, b, i, j + W);
     } else if constexpr (A::unitRows && B::unitRows) {
+      ZELM_UNROLL
       for (int r = 0; r < Rows; ++r)
         storeLanes(dst.address(i + r, j), op(loadRow<W>(a, i + r, j), loadRow<W>(b, i + r, j)));
     } else if constexpr (Rows >= W) {
       const auto blockA = loadBlock<W>(a, i, j);
       const auto blockB = loadBlock<W>(b, i, j);
+      ZELM_UNROLL
       for (int r = 0; r < W; ++r)
         storeLanes(dst.address(i + r, j), op(blockA.row[r], blockB.row[r]));
       combineRegion<W, Rows - W, Columns>(op, dst, a, b, i + W, j);
     } else if constexpr (Rows >= W / 2 && W > 2) {
       combineRegion<W / 2, Rows, Columns>(op, dst, a, b, i, j);
     } else {
+      ZELM_UNROLL
       for (int r = 0; r < Rows; ++r)
         storeLanes(dst.address(i + r, j), op(loadRow<W>(a, i + r, j), loadRow<W>(b, i + r, j)));
     }
@@ -226,27 +222,23 @@ inline void combineGeneral(Op op, const D& dst, const A& a, const B& b, int32_t 
 // Batches
 
 // Object k of an operand of width by height elements as the operation sees them.
-template <class Operand>
-ZELM_INLINE auto objectOf(const Operand& x, int64_t k, int32_t width, int32_t height) {
+template <class Operand> ZELM_INLINE auto objectOf(const Operand& x, int64_t k, int32_t width, int32_t height) {
   return x.object(k, isTransposed<Operand> ? height : width);
 }
 
-template <class>
-constexpr bool isUnitStandard = false;
-template <class T>
-constexpr bool isUnitStandard<Matrix<T, UnitStride>> = true;
-template <class T>
-constexpr bool isUnitStandard<Matrices<T, UnitStride>> = true;
+template <class> constexpr bool isUnitStandard = false;
+template <class T> constexpr bool isUnitStandard<Matrix<T, UnitStride>> = true;
+template <class T> constexpr bool isUnitStandard<Matrices<T, UnitStride>> = true;
 
 // A single source of width by height elements without gaps, for a batch.
-template <class T, int N>
-struct LocalMatrix {
+template <class T, int N> struct LocalMatrix {
   alignas(vectorBytes) T element[N * N];
-  template <class View>
-  ZELM_INLINE explicit LocalMatrix(const View& x) {
+  template <class View> ZELM_INLINE explicit LocalMatrix(const View& x) {
+    ZELM_UNROLL
     for (int i = 0; i < N; ++i)
-      for (int j = 0; j < N; ++j)
-        element[i * N + j] = x.load(i, j);
+      ZELM_UNROLL
+    for (int j = 0; j < N; ++j)
+      element[i * N + j] = x.load(i, j);
   }
   ZELM_INLINE auto view() const {
     return StridedMatrixView<const T, FixedStep<N* static_cast<int>(sizeof(T))>, UnitStep<const T>>{

@@ -9,49 +9,40 @@ namespace zelm {
 // Tests of the arguments
 
 struct TestNull {
-  template <class... A>
-  static ZelStatus test(const A&... a) {
+  template <class... A> static ZelStatus test(const A&... a) {
     return (a.null() || ...) ? zelStatusNullPointer : zelStatusOk;
   }
 };
 struct TestCount {
-  template <class... A>
-  static ZelStatus test(const A&... a) {
+  template <class... A> static ZelStatus test(const A&... a) {
     return (a.badCount() || ...) ? zelStatusBadCount : zelStatusOk;
   }
 };
 struct TestSize {
-  template <class... A>
-  static ZelStatus test(const A&... a) {
+  template <class... A> static ZelStatus test(const A&... a) {
     return (a.badSize() || ...) ? zelStatusBadSize : zelStatusOk;
   }
 };
 struct TestStride {
-  template <class... A>
-  static ZelStatus test(const A&... a) {
+  template <class... A> static ZelStatus test(const A&... a) {
     return (a.badStride() || ...) ? zelStatusBadStride : zelStatusOk;
   }
 };
 struct TestShift {
-  template <class... A>
-  static ZelStatus test(const A&... a) {
+  template <class... A> static ZelStatus test(const A&... a) {
     return (a.badShift() || ...) ? zelStatusBadShift : zelStatusOk;
   }
 };
 // The agreement of the operands' sizes: Rule::agree looks at the arguments that it needs.
-template <class Rule>
-struct TestAgreement {
-  template <class... A>
-  static ZelStatus test(const A&... a) {
+template <class Rule> struct TestAgreement {
+  template <class... A> static ZelStatus test(const A&... a) {
     return Rule::agree(a...) ? zelStatusOk : zelStatusSizeMismatch;
   }
 };
 
 // The tests of a member in their order; the first that fails decides the status.
-template <class... Tests>
-struct Order {
-  template <class... A>
-  ZELM_INLINE static ZelStatus test(const A&... a) {
+template <class... Tests> struct Order {
+  template <class... A> ZELM_INLINE static ZelStatus test(const A&... a) {
     ZelStatus status = zelStatusOk;
     static_cast<void>(((status = Tests::test(a...), status == zelStatusOk) && ...));
     return status;
@@ -110,13 +101,11 @@ constexpr Forks notBelow(int32_t limit) {
 // ---------------------------------------------------------------------------------------------------------------------
 // Frames
 
-template <class... A>
-ZELM_INLINE bool unitStrides(const A&... a) {
+template <class... A> ZELM_INLINE bool unitStrides(const A&... a) {
   return (a.unit() && ...);
 }
 
-template <class Kernel, class... A>
-ZELM_INLINE ZelStatus callUnit(Kernel kernel, const A&... a) {
+template <class Kernel, class... A> ZELM_INLINE ZelStatus callUnit(Kernel kernel, const A&... a) {
   return kernel(a.template forKernel<UnitStride>()...);
 }
 

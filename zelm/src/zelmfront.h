@@ -29,8 +29,7 @@ struct Merges {
   }
 };
 
-template <class... A>
-constexpr int32_t countOf(const A&... a) {
+template <class... A> constexpr int32_t countOf(const A&... a) {
   int32_t count = 0;
   const auto look = [&count](const auto& argument) {
     if constexpr (std::is_same_v<std::decay_t<decltype(argument)>, Count>)
@@ -41,8 +40,7 @@ constexpr int32_t countOf(const A&... a) {
 }
 
 // `kernel(a...)` runs the kernel of the branch on any share of the arguments.
-template <class Statuses, class Kernel, class... A>
-inline ZelStatus fork(Kernel kernel, const A&... a) {
+template <class Statuses, class Kernel, class... A> inline ZelStatus fork(Kernel kernel, const A&... a) {
   const int32_t threads = ownGetNumThreads();
   const int32_t count = countOf(a...);
   if (threads < 2 || count < threads)
@@ -65,8 +63,7 @@ inline ZelStatus front(Unit unitKernel, Any anyKernel, const A&... a) {
 }
 
 // Pointer layout.
-template <class Statuses, class Kernel, class... A>
-inline ZelStatus frontPointer(Kernel kernel, const A&... a) {
+template <class Statuses, class Kernel, class... A> inline ZelStatus frontPointer(Kernel kernel, const A&... a) {
   return fork<Statuses>([kernel](const auto&... b) { return kernel(b...); }, a...);
 }
 

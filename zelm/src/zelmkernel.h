@@ -16,8 +16,7 @@ extern "C" void zelmtestEntered(const char* name);
 namespace zelm {
 
 // The sizes for which a kernel has straight-line code.
-template <int... N>
-struct Sizes {};
+template <int... N> struct Sizes {};
 
 // Calls fixed(std::integral_constant<int, N>) for the N of the list that size equals, otherwise general().
 template <class Fixed, class General>

@@ -7,6 +7,13 @@
 
 #include <immintrin.h>
 
+// Before a loop over the elements of a tile: unrolled completely, and early enough for the tile to live in registers.
+#ifdef __clang__
+#  define ZELM_UNROLL _Pragma("clang loop unroll(full)")
+#else
+#  define ZELM_UNROLL _Pragma("GCC unroll 64")
+#endif
+
 namespace zelm {
 
 #ifdef __AVX2__
@@ -16,26 +23,19 @@ constexpr int vectorBytes = 16;
 #endif
 
 // How many elements of a type a vector holds.
-template <class T>
-constexpr int laneCount = vectorBytes / static_cast<int>(sizeof(T));
+template <class T> constexpr int laneCount = vectorBytes / static_cast<int>(sizeof(T));
 
-template <class T, int W>
-struct VectorOf {
-  typedef T type __attribute__((vector_size(W * sizeof(T))));
-};
+template <class T, int W> struct VectorOf { typedef T type __attribute__((vector_size(W * sizeof(T)))); };
 // A vector of W elements of type T; W is a power of two.
-template <class T, int W = laneCount<T>>
-using Lanes = typename VectorOf<T, W>::type;
+template <class T, int W = laneCount<T>> using Lanes = typename VectorOf<T, W>::type;
 
-template <class T, int W = laneCount<T>>
-ZELM_INLINE Lanes<T, W> loadLanes(const char* address) {
+template <class T, int W = laneCount<T>> ZELM_INLINE Lanes<T, W> loadLanes(const char* address) {
   Lanes<T, W> v;
   std::memcpy(&v, address, sizeof v);
   return v;
 }
 
-template <class V>
-ZELM_INLINE void storeLanes(char* address, const V& v) {
+template <class V> ZELM_INLINE void storeLanes(char* address, const V& v) {
   std::memcpy(address, &v, sizeof v);
 }
 

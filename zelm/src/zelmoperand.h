@@ -39,18 +39,15 @@ struct Share {
 // Elements
 
 // Addresses are not required to be aligned to the element: every access is a copy of bytes.
-template <class T>
-using Byte = std::conditional_t<std::is_const_v<T>, const char, char>;
+template <class T> using Byte = std::conditional_t<std::is_const_v<T>, const char, char>;
 
-template <class T>
-ZELM_INLINE std::remove_const_t<T> loadElement(const char* address) {
+template <class T> ZELM_INLINE std::remove_const_t<T> loadElement(const char* address) {
   std::remove_const_t<T> value;
   std::memcpy(&value, address, sizeof value);
   return value;
 }
 
-template <class T>
-ZELM_INLINE void storeElement(char* address, T value) {
+template <class T> ZELM_INLINE void storeElement(char* address, T value) {
   std::memcpy(address, &value, sizeof value);
 }
 
@@ -63,27 +60,23 @@ struct AnyStep {
   constexpr operator int64_t() const { return bytes; }
 };
 
-template <class T>
-struct UnitStep {
+template <class T> struct UnitStep {
   constexpr operator int64_t() const { return sizeof(T); }
 };
 
 // How a kernel takes stride2: AnyStride as an argument, UnitStride as the element size.
 struct AnyStride {
-  template <class T>
-  using Step = AnyStep;
+  template <class T> using Step = AnyStep;
 };
 struct UnitStride {
-  template <class T>
-  using Step = UnitStep<T>;
+  template <class T> using Step = UnitStep<T>;
 };
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Views of one object
 
 // Element (i, j) at origin + i * rowStep + j * columnStep.
-template <class T, class RowStep, class ColumnStep>
-struct StridedMatrixView {
+template <class T, class RowStep, class ColumnStep> struct StridedMatrixView {
   using Element = std::remove_const_t<T>;
   static constexpr bool strided = true;
   static constexpr bool unitRows = std::is_same_v<ColumnStep, UnitStep<T>>; // the elements of a row are neighbours
@@ -99,8 +92,7 @@ struct StridedMatrixView {
 };
 
 // Element (i, j) at list[i * rowStep + j * columnStep] + offset.
-template <class T>
-struct PointerMatrixView {
+template <class T> struct PointerMatrixView {
   using Element = std::remove_const_t<T>;
   static constexpr bool strided = false;
   static constexpr bool unitRows = false;
@@ -119,8 +111,7 @@ struct PointerMatrixView {
 };
 
 // Element j at origin + j * step.
-template <class T, class ElementStep>
-struct StridedVectorView {
+template <class T, class ElementStep> struct StridedVectorView {
   using Element = std::remove_const_t<T>;
   static constexpr bool strided = true;
   static constexpr bool unitRows = std::is_same_v<ElementStep, UnitStep<T>>;
@@ -133,8 +124,7 @@ struct StridedVectorView {
 };
 
 // Element j at list[j] + offset.
-template <class T>
-struct PointerVectorView {
+template <class T> struct PointerVectorView {
   using Element = std::remove_const_t<T>;
   static constexpr bool strided = false;
   static constexpr bool unitRows = false;
@@ -161,12 +151,10 @@ struct Argument {
   static constexpr int32_t scratch() { return 0; }
 };
 
-template <class T>
-constexpr bool isBadStride(int32_t stride) {
+template <class T> constexpr bool isBadStride(int32_t stride) {
   return (stride & static_cast<int32_t>(sizeof(T) - 1)) != 0 || stride < 1;
 }
-template <class T>
-constexpr bool isBadShift(int32_t shift) {
+template <class T> constexpr bool isBadShift(int32_t shift) {
   return (shift & static_cast<int32_t>(sizeof(T) - 1)) != 0 || shift < 0;
 }
 
@@ -176,10 +164,7 @@ struct Size : Argument {
   constexpr Size(int32_t size) : value(size) {}
   constexpr operator int32_t() const { return value; }
   constexpr bool badSize() const { return value < 1; }
-  template <class>
-  constexpr Size forKernel() const {
-    return *this;
-  }
+  template <class> constexpr Size forKernel() const { return *this; }
   constexpr Size advanced(const Share&) const { return *this; }
 };
 
@@ -188,47 +173,35 @@ struct Count : Argument {
   constexpr Count(int32_t count) : value(count) {}
   constexpr operator int32_t() const { return value; }
   constexpr bool badCount() const { return value < 1; }
-  template <class>
-  constexpr Count forKernel() const {
-    return *this;
-  }
+  template <class> constexpr Count forKernel() const { return *this; }
   constexpr Count advanced(const Share& share) const { return share.count; }
 };
 
 // A constant passed by value.
-template <class T>
-struct Constant : Argument {
+template <class T> struct Constant : Argument {
   using Element = T;
   static constexpr bool isArray = false;
   T value;
   constexpr Constant(T constant) : value(constant) {}
   constexpr operator T() const { return value; }
-  template <class>
-  constexpr Constant forKernel() const {
-    return *this;
-  }
+  template <class> constexpr Constant forKernel() const { return *this; }
   constexpr Constant advanced(const Share&) const { return *this; }
 };
 
 // A plain pointer with `each` elements for each object of the batch (0: shared by all objects).
-template <class T>
-struct Plain : Argument {
+template <class T> struct Plain : Argument {
   T* pointer;
   int32_t each;
   constexpr Plain(T* address, int32_t perObject) : pointer(address), each(perObject) {}
   constexpr operator T*() const { return pointer; }
   constexpr bool null() const { return pointer == nullptr; }
-  template <class>
-  constexpr Plain forKernel() const {
-    return *this;
-  }
+  template <class> constexpr Plain forKernel() const { return *this; }
   constexpr Plain advanced(const Share& share) const { return {pointer + share.first * each, each}; }
   constexpr Plain single(int64_t k) const { return {pointer + k * each, each}; }
 };
 
 // The caller's scratch of `size` elements for one object; in a front, the thread's part of the front's block.
-template <class T>
-struct Buffer : Argument {
+template <class T> struct Buffer : Argument {
   T* pointer;
   int32_t size;
   constexpr Buffer(T* address, int32_t elements) : pointer(address), size(elements) {}
@@ -238,18 +211,14 @@ struct Buffer : Argument {
   constexpr int32_t scratch() const {
     return static_cast<int32_t>(static_cast<uint32_t>(size) * static_cast<uint32_t>(sizeof(T)));
   }
-  template <class>
-  constexpr Buffer forKernel() const {
-    return *this;
-  }
+  template <class> constexpr Buffer forKernel() const { return *this; }
   Buffer advanced(const Share& share) const {
     return {reinterpret_cast<T*>(share.scratch + share.thread * static_cast<int64_t>(scratch())), size};
   }
 };
 
 // m, standard and list layout.
-template <class T, class Stride = AnyStride>
-struct Matrix : Argument {
+template <class T, class Stride = AnyStride> struct Matrix : Argument {
   using Element = std::remove_const_t<T>;
   using Step = typename Stride::template Step<T>;
   static constexpr bool isArray = false;
@@ -262,8 +231,7 @@ struct Matrix : Argument {
     return isBadStride<T>(stride1) || isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
   }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
-  template <class S>
-  constexpr Matrix<T, S> forKernel() const {
+  template <class S> constexpr Matrix<T, S> forKernel() const {
     if constexpr (std::is_same_v<S, UnitStride>)
       return {pointer, stride1, {}};
     else
@@ -281,8 +249,7 @@ struct Matrix : Argument {
 };
 
 // m, pointer layout.
-template <class T>
-struct MatrixP : Argument {
+template <class T> struct MatrixP : Argument {
   using Element = std::remove_const_t<T>;
   static constexpr bool isArray = false;
   T* const* list;
@@ -290,18 +257,14 @@ struct MatrixP : Argument {
   constexpr MatrixP(T* const* x, int32_t bytes) : list(x), shift(bytes) {}
   constexpr bool null() const { return list == nullptr; }
   constexpr bool badShift() const { return isBadShift<T>(shift); }
-  template <class>
-  constexpr MatrixP forKernel() const {
-    return *this;
-  }
+  template <class> constexpr MatrixP forKernel() const { return *this; }
   constexpr MatrixP advanced(const Share&) const { return *this; }
   ZELM_INLINE int64_t objectStride() const { return 0; }
   ZELM_INLINE auto object(int64_t, int64_t rowLength) const { return PointerMatrixView<T>{list, shift, rowLength, 1}; }
 };
 
 // ma, standard layout.
-template <class T, class Stride = AnyStride>
-struct Matrices : Argument {
+template <class T, class Stride = AnyStride> struct Matrices : Argument {
   using Element = std::remove_const_t<T>;
   using Step = typename Stride::template Step<T>;
   static constexpr bool isArray = true;
@@ -316,8 +279,7 @@ struct Matrices : Argument {
            isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
   }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
-  template <class S>
-  constexpr Matrices<T, S> forKernel() const {
+  template <class S> constexpr Matrices<T, S> forKernel() const {
     if constexpr (std::is_same_v<S, UnitStride>)
       return {pointer, stride0, stride1, {}};
     else
@@ -339,8 +301,7 @@ struct Matrices : Argument {
 };
 
 // ma, list layout.
-template <class T, class Stride = AnyStride>
-struct MatricesL : Argument {
+template <class T, class Stride = AnyStride> struct MatricesL : Argument {
   using Element = std::remove_const_t<T>;
   using Step = typename Stride::template Step<T>;
   static constexpr bool isArray = true;
@@ -356,8 +317,7 @@ struct MatricesL : Argument {
   }
   constexpr bool badShift() const { return isBadShift<T>(shift); }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
-  template <class S>
-  constexpr MatricesL<T, S> forKernel() const {
+  template <class S> constexpr MatricesL<T, S> forKernel() const {
     if constexpr (std::is_same_v<S, UnitStride>)
       return {list, shift, stride1, {}};
     else
@@ -374,8 +334,7 @@ struct MatricesL : Argument {
 };
 
 // ma, pointer layout. The offset is the shift, and what the share of a thread adds to it.
-template <class T>
-struct MatricesP : Argument {
+template <class T> struct MatricesP : Argument {
   using Element = std::remove_const_t<T>;
   static constexpr bool isArray = true;
   T* const* list;
@@ -385,10 +344,7 @@ struct MatricesP : Argument {
   constexpr bool null() const { return list == nullptr; }
   constexpr bool badStride() const { return isBadStride<T>(stride0); }
   constexpr bool badShift() const { return isBadShift<T>(static_cast<int32_t>(offset)); }
-  template <class>
-  constexpr MatricesP forKernel() const {
-    return *this;
-  }
+  template <class> constexpr MatricesP forKernel() const { return *this; }
   constexpr MatricesP advanced(const Share& share) const { return {list, offset + share.first * stride0, stride0}; }
   ZELM_INLINE int64_t objectStride() const { return stride0; }
   ZELM_INLINE auto object(int64_t k, int64_t rowLength) const {
@@ -397,8 +353,7 @@ struct MatricesP : Argument {
 };
 
 // v, standard and list layout.
-template <class T, class Stride = AnyStride>
-struct Vector : Argument {
+template <class T, class Stride = AnyStride> struct Vector : Argument {
   using Element = std::remove_const_t<T>;
   using Step = typename Stride::template Step<T>;
   static constexpr bool isArray = false;
@@ -408,8 +363,7 @@ struct Vector : Argument {
   constexpr bool null() const { return pointer == nullptr; }
   constexpr bool badStride() const { return isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2))); }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
-  template <class S>
-  constexpr Vector<T, S> forKernel() const {
+  template <class S> constexpr Vector<T, S> forKernel() const {
     if constexpr (std::is_same_v<S, UnitStride>)
       return {pointer, {}};
     else
@@ -423,8 +377,7 @@ struct Vector : Argument {
 };
 
 // v, pointer layout.
-template <class T>
-struct VectorP : Argument {
+template <class T> struct VectorP : Argument {
   using Element = std::remove_const_t<T>;
   static constexpr bool isArray = false;
   T* const* list;
@@ -432,18 +385,14 @@ struct VectorP : Argument {
   constexpr VectorP(T* const* x, int32_t bytes) : list(x), shift(bytes) {}
   constexpr bool null() const { return list == nullptr; }
   constexpr bool badShift() const { return isBadShift<T>(shift); }
-  template <class>
-  constexpr VectorP forKernel() const {
-    return *this;
-  }
+  template <class> constexpr VectorP forKernel() const { return *this; }
   constexpr VectorP advanced(const Share&) const { return *this; }
   ZELM_INLINE int64_t objectStride() const { return 0; }
   ZELM_INLINE auto object(int64_t) const { return PointerVectorView<T>{list, shift}; }
 };
 
 // va, standard layout.
-template <class T, class Stride = AnyStride>
-struct Vectors : Argument {
+template <class T, class Stride = AnyStride> struct Vectors : Argument {
   using Element = std::remove_const_t<T>;
   using Step = typename Stride::template Step<T>;
   static constexpr bool isArray = true;
@@ -456,8 +405,7 @@ struct Vectors : Argument {
     return isBadStride<T>(stride0) || isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
   }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
-  template <class S>
-  constexpr Vectors<T, S> forKernel() const {
+  template <class S> constexpr Vectors<T, S> forKernel() const {
     if constexpr (std::is_same_v<S, UnitStride>)
       return {pointer, stride0, {}};
     else
@@ -476,8 +424,7 @@ struct Vectors : Argument {
 };
 
 // va, list layout.
-template <class T, class Stride = AnyStride>
-struct VectorsL : Argument {
+template <class T, class Stride = AnyStride> struct VectorsL : Argument {
   using Element = std::remove_const_t<T>;
   using Step = typename Stride::template Step<T>;
   static constexpr bool isArray = true;
@@ -489,8 +436,7 @@ struct VectorsL : Argument {
   constexpr bool badStride() const { return isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2))); }
   constexpr bool badShift() const { return isBadShift<T>(shift); }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
-  template <class S>
-  constexpr VectorsL<T, S> forKernel() const {
+  template <class S> constexpr VectorsL<T, S> forKernel() const {
     if constexpr (std::is_same_v<S, UnitStride>)
       return {list, shift, {}};
     else
@@ -506,8 +452,7 @@ struct VectorsL : Argument {
 };
 
 // va, pointer layout.
-template <class T>
-struct VectorsP : Argument {
+template <class T> struct VectorsP : Argument {
   using Element = std::remove_const_t<T>;
   static constexpr bool isArray = true;
   T* const* list;
@@ -517,18 +462,14 @@ struct VectorsP : Argument {
   constexpr bool null() const { return list == nullptr; }
   constexpr bool badStride() const { return isBadStride<T>(stride0); }
   constexpr bool badShift() const { return isBadShift<T>(static_cast<int32_t>(offset)); }
-  template <class>
-  constexpr VectorsP forKernel() const {
-    return *this;
-  }
+  template <class> constexpr VectorsP forKernel() const { return *this; }
   constexpr VectorsP advanced(const Share& share) const { return {list, offset + share.first * stride0, stride0}; }
   ZELM_INLINE int64_t objectStride() const { return stride0; }
   ZELM_INLINE auto object(int64_t k) const { return PointerVectorView<T>{list, offset + k * stride0}; }
 };
 
 // ca, standard and pointer layout.
-template <class T>
-struct Constants : Argument {
+template <class T> struct Constants : Argument {
   using Element = std::remove_const_t<T>;
   static constexpr bool isArray = true;
   T* pointer;
@@ -536,10 +477,7 @@ struct Constants : Argument {
   constexpr Constants(T* x, int32_t s0) : pointer(x), stride0(s0) {}
   constexpr bool null() const { return pointer == nullptr; }
   constexpr bool badStride() const { return isBadStride<T>(stride0); }
-  template <class>
-  constexpr Constants forKernel() const {
-    return *this;
-  }
+  template <class> constexpr Constants forKernel() const { return *this; }
   Constants advanced(const Share& share) const {
     return {reinterpret_cast<T*>(reinterpret_cast<Byte<T>*>(pointer) + share.first * stride0), stride0};
   }
@@ -549,8 +487,7 @@ struct Constants : Argument {
 };
 
 // ca, list layout.
-template <class T>
-struct ConstantsL : Argument {
+template <class T> struct ConstantsL : Argument {
   using Element = std::remove_const_t<T>;
   static constexpr bool isArray = true;
   T* const* list;
@@ -558,22 +495,17 @@ struct ConstantsL : Argument {
   constexpr ConstantsL(T* const* x, int32_t bytes) : list(x), shift(bytes) {}
   constexpr bool null() const { return list == nullptr; }
   constexpr bool badShift() const { return isBadShift<T>(shift); }
-  template <class>
-  constexpr ConstantsL forKernel() const {
-    return *this;
-  }
+  template <class> constexpr ConstantsL forKernel() const { return *this; }
   constexpr ConstantsL advanced(const Share& share) const { return {list + share.first, shift}; }
   ZELM_INLINE Element load(int64_t k) const { return loadElement<T>(reinterpret_cast<Byte<T>*>(list[k]) + shift); }
 };
 
 // The t kinds: the operand with i and j exchanged. rowLength is that of the stored rows.
-template <class Operand>
-struct Transposed : Operand {
+template <class Operand> struct Transposed : Operand {
   using Operand::Operand;
   constexpr Transposed(const Operand& stored) : Operand(stored) {}
   constexpr const Operand& stored() const { return *this; }
-  template <class S>
-  constexpr auto forKernel() const {
+  template <class S> constexpr auto forKernel() const {
     return Transposed<decltype(stored().template forKernel<S>())>(stored().template forKernel<S>());
   }
   constexpr Transposed advanced(const Share& share) const { return Operand::advanced(share); }
@@ -581,9 +513,7 @@ struct Transposed : Operand {
   ZELM_INLINE auto object(int64_t k, int64_t rowLength) const { return Operand::object(k, rowLength).transposed(); }
 };
 
-template <class>
-constexpr bool isTransposed = false;
-template <class Operand>
-constexpr bool isTransposed<Transposed<Operand>> = true;
+template <class> constexpr bool isTransposed = false;
+template <class Operand> constexpr bool isTransposed<Transposed<Operand>> = true;
 
 } // namespace zelm

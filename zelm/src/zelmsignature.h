@@ -2,12 +2,12 @@
 //
 // A signature such as MAM_S(V, T) is a list of tokens, each an operand's kind and layout with its name. The visitor V
 // says what becomes of a token:
-//   PARAM  the parameters of the exported function                          const float* src1, int32_t src1Stride0, ...
-//   ARG    the arguments made of them                                       Matrices<const float>(src1, src1Stride0, ...)
-//   ANY    the parameters of a front or a kernel that takes any stride2   Matrices<const float, AnyStride> src1
-//   UNIT   the parameters of a kernel for unit stride2                     Matrices<const float, UnitStride> src1
-//   NAME   the bare names                                                   src1
-//   OBJECT the arguments of a kernel for single objects, made of object k   src1.single(k)
+//   PARAM   the parameters of the exported function: const float* src1, int32_t src1Stride0, ...
+//   ARG     the arguments made of them: Matrices<const float>(src1, src1Stride0, ...)
+//   ANY     the parameters of a front or a kernel that takes any stride2: Matrices<const float, AnyStride> src1
+//   UNIT    the parameters of a kernel for unit stride2: Matrices<const float, UnitStride> src1
+//   NAME    the bare names: src1
+//   OBJECT  the arguments of a kernel for single objects, made of object k: src1.single(k)
 #pragma once
 
 #include "zelmoperand.h"

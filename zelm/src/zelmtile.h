@@ -1,0 +1,349 @@
+// Tiles: small matrices and vectors whose elements are lanes.
+//
+// A tile with scalar lanes holds one object. A tile with vector lanes holds as many objects as a vector has elements,
+// one a lane: neighbours of the pointer layout as they lie, objects of the other layouts through a transposition in
+// registers. Arithmetic written on tiles serves both.
+#pragma once
+
+#include "zelmkernel.h"
+#include "zelmlane.h"
+
+#include <utility>
+
+namespace zelm {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Lanes: a lane type L is an element type or a vector of one
+
+template <class L> struct LaneTraits {
+  using Element = L;
+  static constexpr int width = 1;
+};
+template <class T, int W> struct VectorLaneTraits {
+  using Element = T;
+  static constexpr int width = W;
+};
+template <> struct LaneTraits<Lanes<float, 4>> : VectorLaneTraits<float, 4> {};
+template <> struct LaneTraits<Lanes<double, 2>> : VectorLaneTraits<double, 2> {};
+template <> struct LaneTraits<Lanes<float, 8>> : VectorLaneTraits<float, 8> {};
+template <> struct LaneTraits<Lanes<double, 4>> : VectorLaneTraits<double, 4> {};
+
+template <class L> using ElementOf = typename LaneTraits<L>::Element;
+
+// The same value in every lane, signed zeros and NaN included.
+template <class L> ZELM_INLINE L splat(ElementOf<L> value) {
+  if constexpr (LaneTraits<L>::width == 1)
+    return value;
+  else
+    return value - L{};
+}
+
+template <class L, int R, int C> struct Tile {
+  L element[R * C];
+  ZELM_INLINE L& operator()(int i, int j) { return element[i * C + j]; }
+  ZELM_INLINE const L& operator()(int i, int j) const { return element[i * C + j]; }
+};
+
+// ---------------------------------------------------------------------------------------------------------------------
+// One object
+
+template <int R, int C, class View> ZELM_INLINE auto loadTile(const View& x) {
+  Tile<typename View::Element, R, C> tile;
+  ZELM_UNROLL
+  for (int i = 0; i < R; ++i)
+    ZELM_UNROLL
+  for (int j = 0; j < C; ++j)
+    tile(i, j) = x.load(i, j);
+  return tile;
+}
+
+template <int R, int C, class View>
+ZELM_INLINE void storeTile(const View& x, const Tile<typename View::Element, R, C>& tile) {
+  ZELM_UNROLL
+  for (int i = 0; i < R; ++i)
+    ZELM_UNROLL
+  for (int j = 0; j < C; ++j)
+    x.store(i, j, tile(i, j));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// As many objects as a vector has elements, from the addresses of their elements
+
+// Sixteen bytes of each object.
+template <class T> constexpr int chunkElements = 16 / static_cast<int>(sizeof(T));
+
+// The first element of each of the objects.
+template <class T, class C> struct ObjectAddresses { C* of[laneCount<T>]; };
+
+#ifdef __AVX2__
+ZELM_INLINE Lanes<float, 8> joinHalves(Lanes<float, 4> low, Lanes<float, 4> high) {
+  return __builtin_shufflevector(low, high, 0, 1, 2, 3, 4, 5, 6, 7);
+}
+ZELM_INLINE Lanes<double, 4> joinHalves(Lanes<double, 2> low, Lanes<double, 2> high) {
+  return __builtin_shufflevector(low, high, 0, 1, 2, 3);
+}
+ZELM_INLINE Lanes<float, 4> lowHalf(Lanes<float, 8> v) {
+  return __builtin_shufflevector(v, v, 0, 1, 2, 3);
+}
+ZELM_INLINE Lanes<float, 4> highHalf(Lanes<float, 8> v) {
+  return __builtin_shufflevector(v, v, 4, 5, 6, 7);
+}
+ZELM_INLINE Lanes<double, 2> lowHalf(Lanes<double, 4> v) {
+  return __builtin_shufflevector(v, v, 0, 1);
+}
+ZELM_INLINE Lanes<double, 2> highHalf(Lanes<double, 4> v) {
+  return __builtin_shufflevector(v, v, 2, 3);
+}
+
+ZELM_INLINE void transposeChunk(Lanes<float, 8> (&v)[4]) {
+  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 8, 1, 9, 4, 12, 5, 13);
+  const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 10, 3, 11, 6, 14, 7, 15);
+  const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 8, 1, 9, 4, 12, 5, 13);
+  const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 10, 3, 11, 6, 14, 7, 15);
+  v[0] = __builtin_shufflevector(a0, a2, 0, 1, 8, 9, 4, 5, 12, 13);
+  v[1] = __builtin_shufflevector(a0, a2, 2, 3, 10, 11, 6, 7, 14, 15);
+  v[2] = __builtin_shufflevector(a1, a3, 0, 1, 8, 9, 4, 5, 12, 13);
+  v[3] = __builtin_shufflevector(a1, a3, 2, 3, 10, 11, 6, 7, 14, 15);
+}
+ZELM_INLINE void transposeChunk(Lanes<double, 4> (&v)[2]) {
+  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 2, 6);
+  const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 5, 3, 7);
+  v[0] = a0;
+  v[1] = a1;
+}
+#else
+ZELM_INLINE void transposeChunk(Lanes<float, 4> (&v)[4]) {
+  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 1, 5);
+  const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 6, 3, 7);
+  const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 1, 5);
+  const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 6, 3, 7);
+  v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
+  v[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
+  v[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
+  v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+}
+ZELM_INLINE void transposeChunk(Lanes<double, 2> (&v)[2]) {
+  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 2);
+  const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 3);
+  v[0] = a0;
+  v[1] = a1;
+}
+#endif
+
+// Chunk of each object at `offset` bytes: lanes[e] gets element e of every object. The transposition is its own
+// inverse.
+template <class T, class C>
+ZELM_INLINE void loadChunk(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T> (&lanes)[chunkElements<T>]) {
+  constexpr int Q = chunkElements<T>;
+  ZELM_UNROLL
+  for (int q = 0; q < Q; ++q) {
+#ifdef __AVX2__
+    lanes[q] = joinHalves(loadLanes<T, Q>(x.of[q] + offset), loadLanes<T, Q>(x.of[q + Q] + offset));
+#else
+    lanes[q] = loadLanes<T, Q>(x.of[q] + offset);
+#endif
+  }
+  transposeChunk(lanes);
+}
+
+template <class T>
+ZELM_INLINE void storeChunk(const ObjectAddresses<T, char>& x, int64_t offset, Lanes<T> (&lanes)[chunkElements<T>]) {
+  constexpr int Q = chunkElements<T>;
+  transposeChunk(lanes);
+  ZELM_UNROLL
+  for (int q = 0; q < Q; ++q) {
+#ifdef __AVX2__
+    storeLanes(x.of[q] + offset, lowHalf(lanes[q]));
+    storeLanes(x.of[q + Q] + offset, highHalf(lanes[q]));
+#else
+    storeLanes(x.of[q] + offset, lanes[q]);
+#endif
+  }
+}
+
+// N neighbouring elements of each object at `offset` bytes, into lanes[0 .. N-1]. The last chunk of a run of at least
+// one chunk overlaps its neighbour; a shorter run goes element by element.
+template <int N, class T, class C>
+ZELM_INLINE void loadRun(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T>* lanes) {
+  constexpr int Q = chunkElements<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  if constexpr (N >= Q) {
+    ZELM_UNROLL
+    for (int e = 0; e < N; e += Q) {
+      const int from = e + Q <= N ? e : N - Q;
+      Lanes<T> chunk[Q];
+      loadChunk<T>(x, offset + from * E, chunk);
+      for (int q = e - from; q < Q; ++q)
+        lanes[from + q] = chunk[q];
+    }
+  } else {
+    ZELM_UNROLL
+    for (int e = 0; e < N; ++e)
+      ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      lanes[e][w] = loadElement<T>(x.of[w] + offset + e * E);
+  }
+}
+
+// The same back. All lanes have been computed before the first is stored, so what overlaps is written twice alike.
+template <int N, class T>
+ZELM_INLINE void storeRun(const ObjectAddresses<T, char>& x, int64_t offset, const Lanes<T>* lanes) {
+  constexpr int Q = chunkElements<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  if constexpr (N >= Q) {
+    ZELM_UNROLL
+    for (int e = 0; e < N; e += Q) {
+      const int from = e + Q <= N ? e : N - Q;
+      Lanes<T> chunk[Q];
+      ZELM_UNROLL
+      for (int q = 0; q < Q; ++q)
+        chunk[q] = lanes[from + q];
+      storeChunk<T>(x, offset + from * E, chunk);
+    }
+  } else {
+    ZELM_UNROLL
+    for (int e = 0; e < N; ++e)
+      ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      storeElement<T>(x.of[w] + offset + e * E, lanes[e][w]);
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// As many objects as a vector has elements, from an operand
+
+// How the elements of an operand's objects lie; known for a whole call.
+enum class Lie {
+  Packed,     // the elements of an object one behind the other, row after row
+  Rows,       // the elements of a row one behind the other
+  Elements,   // anywhere
+  Neighbours, // pointer layout: at each position, the elements of the objects one behind the other
+};
+
+template <class T, class Operand> ZELM_INLINE auto objectAddresses(const Operand& x, int64_t k) {
+  using View = decltype(x.object(0, 0));
+  using C = std::remove_pointer_t<decltype(std::declval<View>().address(0, 0))>;
+  ObjectAddresses<T, C> addresses;
+  ZELM_UNROLL
+  for (int w = 0; w < laneCount<T>; ++w)
+    addresses.of[w] = x.object(k + w, 0).address(0, 0);
+  return addresses;
+}
+
+// Objects k, k + 1, ... of an untransposed matrix operand of R by C elements, one a lane.
+template <Lie lie, int R, int C, class Operand> ZELM_INLINE auto loadTiles(const Operand& x, int64_t k) {
+  using T = typename Operand::Element;
+  Tile<Lanes<T>, R, C> tile;
+  if constexpr (lie == Lie::Packed) {
+    loadRun<R * C, T>(objectAddresses<T>(x, k), 0, tile.element);
+  } else if constexpr (lie == Lie::Rows) {
+    const auto addresses = objectAddresses<T>(x, k);
+    ZELM_UNROLL
+    for (int i = 0; i < R; ++i)
+      loadRun<C, T>(addresses, i * static_cast<int64_t>(x.stride1), tile.element + i * C);
+  } else if constexpr (lie == Lie::Neighbours) {
+    const auto view = x.object(k, C);
+    ZELM_UNROLL
+    for (int i = 0; i < R; ++i)
+      ZELM_UNROLL
+    for (int j = 0; j < C; ++j)
+      tile(i, j) = loadLanes<T>(view.address(i, j));
+  } else {
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w) {
+      const auto view = x.object(k + w, C);
+      ZELM_UNROLL
+      for (int i = 0; i < R; ++i)
+        ZELM_UNROLL
+      for (int j = 0; j < C; ++j)
+        tile(i, j)[w] = view.load(i, j);
+    }
+  }
+  return tile;
+}
+
+template <Lie lie, int R, int C, class Operand>
+ZELM_INLINE void storeTiles(const Operand& x, int64_t k, const Tile<Lanes<typename Operand::Element>, R, C>& tile) {
+  using T = typename Operand::Element;
+  if constexpr (lie == Lie::Packed) {
+    storeRun<R * C, T>(objectAddresses<T>(x, k), 0, tile.element);
+  } else if constexpr (lie == Lie::Rows) {
+    const auto addresses = objectAddresses<T>(x, k);
+    ZELM_UNROLL
+    for (int i = 0; i < R; ++i)
+      storeRun<C, T>(addresses, i * static_cast<int64_t>(x.stride1), tile.element + i * C);
+  } else if constexpr (lie == Lie::Neighbours) {
+    const auto view = x.object(k, C);
+    ZELM_UNROLL
+    for (int i = 0; i < R; ++i)
+      ZELM_UNROLL
+    for (int j = 0; j < C; ++j)
+      storeLanes(view.address(i, j), tile(i, j));
+  } else {
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w) {
+      const auto view = x.object(k + w, C);
+      ZELM_UNROLL
+      for (int i = 0; i < R; ++i)
+        ZELM_UNROLL
+      for (int j = 0; j < C; ++j)
+        view.store(i, j, tile(i, j)[w]);
+    }
+  }
+}
+
+// The same for vectors of N elements: a tile of one row.
+template <class T, class Operand> ZELM_INLINE auto vectorAddresses(const Operand& x, int64_t k) {
+  using C = std::remove_pointer_t<decltype(x.object(0).address(0))>;
+  ObjectAddresses<T, C> addresses;
+  ZELM_UNROLL
+  for (int w = 0; w < laneCount<T>; ++w)
+    addresses.of[w] = x.object(k + w).address(0);
+  return addresses;
+}
+
+template <Lie lie, int N, class Operand> ZELM_INLINE auto loadVectorTiles(const Operand& x, int64_t k) {
+  using T = typename Operand::Element;
+  Tile<Lanes<T>, 1, N> tile;
+  if constexpr (lie == Lie::Packed || lie == Lie::Rows) {
+    loadRun<N, T>(vectorAddresses<T>(x, k), 0, tile.element);
+  } else if constexpr (lie == Lie::Neighbours) {
+    const auto view = x.object(k);
+    ZELM_UNROLL
+    for (int j = 0; j < N; ++j)
+      tile(0, j) = loadLanes<T>(view.address(j));
+  } else {
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w) {
+      const auto view = x.object(k + w);
+      ZELM_UNROLL
+      for (int j = 0; j < N; ++j)
+        tile(0, j)[w] = view.load(j);
+    }
+  }
+  return tile;
+}
+
+template <Lie lie, int N, class Operand>
+ZELM_INLINE void storeVectorTiles(const Operand& x, int64_t k,
+                                  const Tile<Lanes<typename Operand::Element>, 1, N>& tile) {
+  using T = typename Operand::Element;
+  if constexpr (lie == Lie::Packed || lie == Lie::Rows) {
+    storeRun<N, T>(vectorAddresses<T>(x, k), 0, tile.element);
+  } else if constexpr (lie == Lie::Neighbours) {
+    const auto view = x.object(k);
+    ZELM_UNROLL
+    for (int j = 0; j < N; ++j)
+      storeLanes(view.address(j), tile(0, j));
+  } else {
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w) {
+      const auto view = x.object(k + w);
+      ZELM_UNROLL
+      for (int j = 0; j < N; ++j)
+        view.store(j, tile(0, j)[w]);
+    }
+  }
+}
+
+} // namespace zelm
