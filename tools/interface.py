@@ -27,7 +27,10 @@ from collections import namedtuple
 import interface_text as text
 
 # The groups that this version contains. A name out of GROUPS added here adds its functions.
-THIS_VERSION = ["AddMatrices"]
+THIS_VERSION = [
+    "AddMatrices", "MulConstants", "MulMatrices", "MulVectors", "Gaxpy", "AffineTransform3DH",
+    "LUDecomp", "LUBackSubst", "CholeskyDecomp", "CholeskyBackSubst", "QRDecomp", "QRBackSubst",
+]
 
 # One row for each family, or for each part of a family with an argument list of its own.
 #   single, array   the forms without and with an array operand
