@@ -1,0 +1,35 @@
+// Compiled once for each program: ZELMTEST_COUNTED tells whether the library build counts entries.
+#include "paths.h"
+#include "run.h"
+
+#include <gtest/gtest.h>
+#include <omp.h>
+#include <xmmintrin.h>
+
+#include <cstdio>
+
+namespace zelmtest {
+const bool countedBuild = ZELMTEST_COUNTED != 0;
+void registerChecks();
+} // namespace zelmtest
+
+int main(int argc, char** argv) {
+  // Read before anything else: loading the library has not changed how arithmetic works.
+  const unsigned control = _mm_getcsr() & 0xffc0u;
+  testing::InitGoogleTest(&argc, argv);
+#ifdef ZELMTEST_V3
+  if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma") || !__builtin_cpu_supports("bmi2")) {
+    std::puts("the processor lacks x86-64-v3");
+    return 77;
+  }
+#endif
+  if (control != 0x1f80u) {
+    std::printf("control register at start: %#x\n", control);
+    return 1;
+  }
+  omp_set_max_active_levels(1);
+  omp_set_num_threads(1);
+  zelmtest::installCrashReport();
+  zelmtest::registerChecks();
+  return RUN_ALL_TESTS();
+}
