@@ -11,19 +11,16 @@
 namespace bench {
 namespace {
 
-template <class T>
-constexpr const char* typeName = sizeof(T) == 4 ? "32f" : "64f";
+template <class T> constexpr const char* typeName = sizeof(T) == 4 ? "32f" : "64f";
 
-template <class T>
-std::string caseName(const char* form, int size) {
+template <class T> std::string caseName(const char* form, int size) {
   return std::string("Add/") + form + "/" + typeName<T> + "/" + std::to_string(size);
 }
 
 // ---- standard layout, packed
 
 // The calls of all forms with three array operands, and of those whose second source is a single matrix.
-template <class T>
-auto arrayByArray(int n) {
+template <class T> auto arrayByArray(int n) {
   const int e = sizeof(T);
   return [=](auto function, const Block& b) {
     function(source<T>(b, 0), n * n * e, n * e, e, source<T>(b, 1), n * n * e, n * e, e, result<T>(b, 2), n * n * e,
@@ -31,8 +28,7 @@ auto arrayByArray(int n) {
   };
 }
 
-template <class T>
-auto arrayBySingle(int n) {
+template <class T> auto arrayBySingle(int n) {
   const int e = sizeof(T);
   return [=](auto function, const Block& b) {
     function(source<T>(b, 0), n * n * e, n * e, e, source<T>(b, 1), n * e, e, result<T>(b, 2), n * n * e, n * e, e, n,
@@ -40,8 +36,7 @@ auto arrayBySingle(int n) {
   };
 }
 
-template <class T>
-Case packed(const char* form, int n, bool isSecondArray, std::vector<Contender> contenders) {
+template <class T> Case packed(const char* form, int n, bool isSecondArray, std::vector<Contender> contenders) {
   const int nn = n * n;
   return {caseName<T>(form, n),
           sizeof(T),
@@ -71,8 +66,7 @@ struct Lists {
   std::vector<void*> scattered[3];
 };
 
-template <class T>
-void makeLists(Lists& lists, const Block& block, int nn, bool isSecondArray) {
+template <class T> void makeLists(Lists& lists, const Block& block, int nn, bool isSecondArray) {
   std::vector<int> mixed(static_cast<std::size_t>(nn));
   for (int p = 0; p < nn; ++p)
     mixed[static_cast<std::size_t>(p)] = p;
@@ -90,13 +84,11 @@ void makeLists(Lists& lists, const Block& block, int nn, bool isSecondArray) {
   }
 }
 
-template <class T>
-const T* const* sourceList(const std::vector<void*>& list) {
+template <class T> const T* const* sourceList(const std::vector<void*>& list) {
   return reinterpret_cast<const T* const*>(list.data());
 }
 
-template <class T>
-T* const* resultList(const std::vector<void*>& list) {
+template <class T> T* const* resultList(const std::vector<void*>& list) {
   return reinterpret_cast<T* const*>(list.data());
 }
 
@@ -151,16 +143,14 @@ void addPointers(int n) {
 
 // ---- one call on one matrix of 3 by 3
 
-template <class T>
-auto oneMatrix() {
+template <class T> auto oneMatrix() {
   const int e = sizeof(T);
   return [=](auto function, const Block& b) {
     function(source<T>(b, 0), 3 * e, e, source<T>(b, 1), 3 * e, e, result<T>(b, 2), 3 * e, e, 3, 3);
   };
 }
 
-template <class T>
-void addCall(std::vector<Contender> single, const std::vector<Contender>& arrayOfOne) {
+template <class T> void addCall(std::vector<Contender> single, const std::vector<Contender>& arrayOfOne) {
   single.insert(single.end(), arrayOfOne.begin(), arrayOfOne.end());
   Case entry{caseName<T>("call", 3), sizeof(T), {array(9), array(9), results(9)}, std::move(single)};
   entry.figures = {{"mm", "lib", "bare", true}, {"mama", "mama", "bare", true}};
@@ -176,8 +166,7 @@ void addCalls() {
 
 // ---- two threads
 
-template <class T>
-void addThreads(int n, std::vector<Contender> one) {
+template <class T> void addThreads(int n, std::vector<Contender> one) {
   Case entry = packed<T>("threads", n, true, std::move(one));
   for (std::size_t i = 0; i < 2; ++i) {
     Contender two = entry.contenders[i];

@@ -40,21 +40,18 @@ inline void clobber() {
   asm volatile("" ::: "memory");
 }
 
-template <void (*pass)(const Block&)>
-void repeat(const Block& block, long repetitions) {
+template <void (*pass)(const Block&)> void repeat(const Block& block, long repetitions) {
   for (; repetitions > 0; --repetitions) {
     pass(block);
     clobber();
   }
 }
 
-template <class T>
-const T* source(const Block& block, int operand) {
+template <class T> const T* source(const Block& block, int operand) {
   return static_cast<const T*>(block.at[operand]);
 }
 
-template <class T>
-T* result(const Block& block, int operand) {
+template <class T> T* result(const Block& block, int operand) {
   return static_cast<T*>(block.at[operand]);
 }
 

@@ -308,10 +308,12 @@ void run(benchmark::State& state, const Case& entry, int count) {
   for (Contender& contender : alternativesFor(entry.name))
     contenders.push_back(std::move(contender));
   for (Contender& contender : alternativesFor(entry.contiguous)) {
-    const int elements = entry.operands.back().elements;
-    contender.run = [pass = contender.run, elements](const Block& block, long repetitions) {
+    contender.run = [pass = contender.run, &entry](const Block& block, long repetitions) {
+      const auto& operands = entry.contiguousOperands;
       Block flat = block;
-      flat.count *= elements;
+      for (std::size_t i = 0; i < operands.size(); ++i)
+        flat.at[i] = block.at[operands[i]];
+      flat.count *= entry.operands[static_cast<std::size_t>(operands.back())].elements;
       pass(flat, repetitions);
     };
     contenders.push_back(std::move(contender));
@@ -365,6 +367,10 @@ public:
       }
       for (const char* section : {"ns.", "ratio.", "difference."})
         printSection(one.counters, section);
+      if (const auto noise = one.counters.find("noise"); noise != one.counters.end() && noise->second.value > 1.3) {
+        std::snprintf(text, sizeof text, " | noise %.1f", noise->second.value);
+        GetOutputStream() << text;
+      }
       GetOutputStream() << std::endl;
     }
   }

@@ -1,13 +1,19 @@
 // The frame of the benchmark program. A family registers its cases (a row each, see add.cpp); the frame lays out and
 // fills the operands, adds the alternatives that know the case's name, times all contenders in alternating short slices
 // and reports nanoseconds per object and ratios as the counters of one Google Benchmark entry.
+//
+// A new family is a file with a function like registerAdd(), declared below and called by main, files of alternatives
+// whose rows carry the cases' names, and a line for each of those in CMakeLists.txt. An alternative is named once and
+// gets its two builds from there.
 #pragma once
 
 #include "alternative.h"
 
+#include <array>
 #include <functional>
 #include <random>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -22,7 +28,7 @@ using Random = std::mt19937;
 using Fill = std::function<void(double* object, Random& random)>;
 
 struct Operand {
-  int elements; // of one object
+  int elements; // of one object; pivot indices and scratch are operands too, big enough in elements of the case's type
   bool isArray; // Block::count objects one behind the other, or a single one
   bool isResult;
   Fill fill; // elements between 0.5 and 1.5 where this is empty
@@ -59,10 +65,11 @@ struct Case {
   int elementSize;               // 4 or 8
   std::vector<Operand> operands; // sources in order, then results
   std::vector<Contender> contenders;
-  std::string contiguous = {}; // row of alternatives/contiguous.cpp, or nothing
+  std::string contiguous = {}; // key of a row in alternatives/contiguous.cpp, or nothing
   double tolerance = 0;        // relative, between the contenders' results
   std::vector<Figure> figures = {};
-  std::function<void(const Block&)> prepare = {}; // called when the operands are in place
+  std::function<void(const Block&)> prepare = {};    // called when the operands are in place
+  std::array<int, 3> contiguousOperands = {0, 1, 2}; // which operands that row takes as src1, src2 and dst
 };
 
 // Registers the case once for each cache level, with a count that makes all operands together fit it.
@@ -73,17 +80,19 @@ void add(const Case& entry, const std::string& suffix, int count);
 // The address of an exported function in one of the library's two builds.
 void* libraryAddress(Build build, const char* symbol);
 
-// The two builds of an exported function `symbol` as contenders. `call(function, block)` makes one call on the block.
-template <class Function, class Call>
-std::vector<Contender> library(const char* symbol, Call call, const char* who = "lib", Role role = Role::library,
-                               int group = 0) {
+// The two builds of exported functions as contenders. `call(function..., block)` works once on the block; it may call
+// several functions, such as a decomposition and the solution with it.
+template <class... Functions, class Call>
+std::vector<Contender> library(const std::array<const char*, sizeof...(Functions)>& symbols, Call call,
+                               const char* who = "lib", Role role = Role::library, int group = 0) {
   std::vector<Contender> pair;
   for (const Build build : {Build::base, Build::wide}) {
-    const auto function = reinterpret_cast<Function>(libraryAddress(build, symbol));
+    const char* const* symbol = symbols.data();
+    const std::tuple<Functions...> functions{reinterpret_cast<Functions>(libraryAddress(build, *symbol++))...};
     pair.push_back({who, build, role,
-                    [function, call](const Block& block, long repetitions) {
+                    [functions, call](const Block& block, long repetitions) {
                       for (; repetitions > 0; --repetitions)
-                        call(function, block);
+                        std::apply([&](auto... function) { call(function..., block); }, functions);
                     },
                     group});
   }
@@ -95,5 +104,8 @@ void registerAdd();
 
 } // namespace bench
 
-// Two builds of an exported function, typed by its declaration in the public header.
-#define BENCH_LIBRARY(function, ...) bench::library<decltype(&function)>(#function, __VA_ARGS__)
+// bench::library for one or two functions, typed by their declarations in the public header; behind the names come the
+// call and, where they differ from the defaults, name, role and group.
+#define BENCH_LIBRARY(function, ...) bench::library<decltype(&function)>({#function}, __VA_ARGS__)
+#define BENCH_LIBRARY_2(first, second, ...)                                                                            \
+  bench::library<decltype(&first), decltype(&second)>({#first, #second}, __VA_ARGS__)

@@ -7,22 +7,18 @@
 
 namespace {
 
-template <class T, int N>
-using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
+template <class T, int N> using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
 
 template <class T, int N>
 constexpr int alignment = N* N * sizeof(T) % 32 == 0   ? Eigen::Aligned32
                           : N* N * sizeof(T) % 16 == 0 ? Eigen::Aligned16
                                                        : Eigen::Unaligned;
 
-template <class T, int N>
-using In = Eigen::Map<const Matrix<T, N>, alignment<T, N>>;
+template <class T, int N> using In = Eigen::Map<const Matrix<T, N>, alignment<T, N>>;
 
-template <class T, int N>
-using Out = Eigen::Map<Matrix<T, N>, alignment<T, N>>;
+template <class T, int N> using Out = Eigen::Map<Matrix<T, N>, alignment<T, N>>;
 
-template <class T, int N>
-void mama(const bench::Block& b) {
+template <class T, int N> void mama(const bench::Block& b) {
   const T* src1 = bench::source<T>(b, 0);
   const T* src2 = bench::source<T>(b, 1);
   T* dst = bench::result<T>(b, 2);
@@ -30,8 +26,7 @@ void mama(const bench::Block& b) {
     Out<T, N>(dst + k * N * N) = In<T, N>(src1 + k * N * N) + In<T, N>(src2 + k * N * N);
 }
 
-template <class T, int N>
-void mam(const bench::Block& b) {
+template <class T, int N> void mam(const bench::Block& b) {
   const T* src1 = bench::source<T>(b, 0);
   const Matrix<T, N> right = In<T, N>(bench::source<T>(b, 1));
   T* dst = bench::result<T>(b, 2);
@@ -39,8 +34,7 @@ void mam(const bench::Block& b) {
     Out<T, N>(dst + k * N * N) = In<T, N>(src1 + k * N * N) + right;
 }
 
-template <class T, int N>
-void tam(const bench::Block& b) {
+template <class T, int N> void tam(const bench::Block& b) {
   const T* src1 = bench::source<T>(b, 0);
   const Matrix<T, N> right = In<T, N>(bench::source<T>(b, 1));
   T* dst = bench::result<T>(b, 2);

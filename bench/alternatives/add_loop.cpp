@@ -33,24 +33,20 @@ void tamLoop(const T* __restrict src1, const T* __restrict src2, T* __restrict d
         dst[k * N * N + i * N + j] = src1[k * N * N + j * N + i] + right[i * N + j];
 }
 
-template <class T, int N>
-void mama(const bench::Block& b) {
+template <class T, int N> void mama(const bench::Block& b) {
   mamaLoop<T, N>(bench::source<T>(b, 0), bench::source<T>(b, 1), bench::result<T>(b, 2), b.count);
 }
 
-template <class T, int N>
-void mam(const bench::Block& b) {
+template <class T, int N> void mam(const bench::Block& b) {
   mamLoop<T, N>(bench::source<T>(b, 0), bench::source<T>(b, 1), bench::result<T>(b, 2), b.count);
 }
 
-template <class T, int N>
-void tam(const bench::Block& b) {
+template <class T, int N> void tam(const bench::Block& b) {
   tamLoop<T, N>(bench::source<T>(b, 0), bench::source<T>(b, 1), bench::result<T>(b, 2), b.count);
 }
 
 // One sum in the caller's own loop: what a call of the library is held against when its overhead is measured.
-template <class T, int N>
-void bare(const bench::Block& b, long repetitions) {
+template <class T, int N> void bare(const bench::Block& b, long repetitions) {
   const T* __restrict src1 = bench::source<T>(b, 0);
   const T* __restrict src2 = bench::source<T>(b, 1);
   T* __restrict dst = bench::result<T>(b, 2);
