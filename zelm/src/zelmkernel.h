@@ -28,16 +28,26 @@ ZELM_INLINE ZelStatus forSize(Sizes<First, Rest...>, int32_t size, const Fixed& 
   return size == First ? fixed(std::integral_constant<int, First>{}) : forSize(Sizes<Rest...>{}, size, fixed, general);
 }
 
+// Calls body on copies of the arguments, which stores to the result cannot change: their fields stay in registers.
+template <class Body, class... A> ZELM_INLINE ZelStatus onCopies(const Body& body, A... a) {
+  return body(a...);
+}
+
 } // namespace zelm
 
 #define ZELM_DECLARE(NAMED, SIG, V, T) extern "C" ZelStatus NAMED(SIG(V, T))
 
+// Operands go by reference: passed by value they would be stored field by field and read back in wider pieces, which
+// stalls a call on one small object.
+//
 // A kernel is its arguments handed to a body: BODY(operands..., sizes..., count). V is UNIT or ANY; a last argument,
 // the list of straight-line sizes, stands in the row where the body takes one.
 #define KERNEL(KERNEL_NAME, SIG, V, T, BODY, ...)                                                                      \
   extern "C" ZelStatus KERNEL_NAME(SIG(V, T)) {                                                                        \
     ZELM_ENTER(KERNEL_NAME);                                                                                           \
-    return zelm::BODY(zelm::__VA_ARGS__{}, SIG(NAME, T));                                                              \
+    return zelm::onCopies(                                                                                             \
+        [](const auto&... a) __attribute__((always_inline)) { return zelm::BODY(zelm::__VA_ARGS__{}, a...); },         \
+        SIG(NAME, T));                                                                                                 \
   }
 
 // A kernel of the list layout that calls the kernel of the single object for each object, up to the first failure.

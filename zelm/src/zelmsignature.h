@@ -4,8 +4,8 @@
 // says what becomes of a token:
 //   PARAM   the parameters of the exported function: const float* src1, int32_t src1Stride0, ...
 //   ARG     the arguments made of them: Matrices<const float>(src1, src1Stride0, ...)
-//   ANY     the parameters of a front or a kernel that takes any stride2: Matrices<const float, AnyStride> src1
-//   UNIT    the parameters of a kernel for unit stride2: Matrices<const float, UnitStride> src1
+//   ANY     the parameters of a front or a kernel that takes any stride2: const Matrices<const float, AnyStride>& src1
+//   UNIT    the parameters of a kernel for unit stride2: const Matrices<const float, UnitStride>& src1
 //   NAME    the bare names: src1
 //   OBJECT  the arguments of a kernel for single objects, made of object k: src1.single(k)
 #pragma once
@@ -59,40 +59,40 @@
 #define ARG_PLAIN(x, T, each)   zelm::Plain<T>(x, each)
 #define ARG_BUFFER(x, T, size)  zelm::Buffer<T>(x, size)
 
-#define ANY_M_S(x, T)  zelm::Matrix<T, zelm::AnyStride> x
-#define ANY_M_P(x, T)  zelm::MatrixP<T> x
-#define ANY_MA_S(x, T) zelm::Matrices<T, zelm::AnyStride> x
-#define ANY_MA_L(x, T) zelm::MatricesL<T, zelm::AnyStride> x
-#define ANY_MA_P(x, T) zelm::MatricesP<T> x
-#define ANY_T_S(x, T)  zelm::Transposed<zelm::Matrix<T, zelm::AnyStride>> x
-#define ANY_T_P(x, T)  zelm::Transposed<zelm::MatrixP<T>> x
-#define ANY_TA_S(x, T) zelm::Transposed<zelm::Matrices<T, zelm::AnyStride>> x
-#define ANY_TA_L(x, T) zelm::Transposed<zelm::MatricesL<T, zelm::AnyStride>> x
-#define ANY_TA_P(x, T) zelm::Transposed<zelm::MatricesP<T>> x
-#define ANY_V_S(x, T)  zelm::Vector<T, zelm::AnyStride> x
-#define ANY_V_P(x, T)  zelm::VectorP<T> x
-#define ANY_VA_S(x, T) zelm::Vectors<T, zelm::AnyStride> x
-#define ANY_VA_L(x, T) zelm::VectorsL<T, zelm::AnyStride> x
-#define ANY_VA_P(x, T) zelm::VectorsP<T> x
-#define ANY_CA_S(x, T) zelm::Constants<T> x
-#define ANY_CA_L(x, T) zelm::ConstantsL<T> x
+#define ANY_M_S(x, T)  const zelm::Matrix<T, zelm::AnyStride>& x
+#define ANY_M_P(x, T)  const zelm::MatrixP<T>& x
+#define ANY_MA_S(x, T) const zelm::Matrices<T, zelm::AnyStride>& x
+#define ANY_MA_L(x, T) const zelm::MatricesL<T, zelm::AnyStride>& x
+#define ANY_MA_P(x, T) const zelm::MatricesP<T>& x
+#define ANY_T_S(x, T)  const zelm::Transposed<zelm::Matrix<T, zelm::AnyStride>>& x
+#define ANY_T_P(x, T)  const zelm::Transposed<zelm::MatrixP<T>>& x
+#define ANY_TA_S(x, T) const zelm::Transposed<zelm::Matrices<T, zelm::AnyStride>>& x
+#define ANY_TA_L(x, T) const zelm::Transposed<zelm::MatricesL<T, zelm::AnyStride>>& x
+#define ANY_TA_P(x, T) const zelm::Transposed<zelm::MatricesP<T>>& x
+#define ANY_V_S(x, T)  const zelm::Vector<T, zelm::AnyStride>& x
+#define ANY_V_P(x, T)  const zelm::VectorP<T>& x
+#define ANY_VA_S(x, T) const zelm::Vectors<T, zelm::AnyStride>& x
+#define ANY_VA_L(x, T) const zelm::VectorsL<T, zelm::AnyStride>& x
+#define ANY_VA_P(x, T) const zelm::VectorsP<T>& x
+#define ANY_CA_S(x, T) const zelm::Constants<T>& x
+#define ANY_CA_L(x, T) const zelm::ConstantsL<T>& x
 #define ANY_C(x, T)    zelm::Constant<T> x
 #define ANY_SIZE(x)    zelm::Size x
 #define ANY_COUNT      zelm::Count count
 #define ANY_PLAIN(x, T, each)   zelm::Plain<T> x
 #define ANY_BUFFER(x, T, size)  zelm::Buffer<T> x
 
-#define UNIT_M_S(x, T)  zelm::Matrix<T, zelm::UnitStride> x
-#define UNIT_MA_S(x, T) zelm::Matrices<T, zelm::UnitStride> x
-#define UNIT_MA_L(x, T) zelm::MatricesL<T, zelm::UnitStride> x
-#define UNIT_T_S(x, T)  zelm::Transposed<zelm::Matrix<T, zelm::UnitStride>> x
-#define UNIT_TA_S(x, T) zelm::Transposed<zelm::Matrices<T, zelm::UnitStride>> x
-#define UNIT_TA_L(x, T) zelm::Transposed<zelm::MatricesL<T, zelm::UnitStride>> x
-#define UNIT_V_S(x, T)  zelm::Vector<T, zelm::UnitStride> x
-#define UNIT_VA_S(x, T) zelm::Vectors<T, zelm::UnitStride> x
-#define UNIT_VA_L(x, T) zelm::VectorsL<T, zelm::UnitStride> x
-#define UNIT_CA_S(x, T) zelm::Constants<T> x
-#define UNIT_CA_L(x, T) zelm::ConstantsL<T> x
+#define UNIT_M_S(x, T)  const zelm::Matrix<T, zelm::UnitStride>& x
+#define UNIT_MA_S(x, T) const zelm::Matrices<T, zelm::UnitStride>& x
+#define UNIT_MA_L(x, T) const zelm::MatricesL<T, zelm::UnitStride>& x
+#define UNIT_T_S(x, T)  const zelm::Transposed<zelm::Matrix<T, zelm::UnitStride>>& x
+#define UNIT_TA_S(x, T) const zelm::Transposed<zelm::Matrices<T, zelm::UnitStride>>& x
+#define UNIT_TA_L(x, T) const zelm::Transposed<zelm::MatricesL<T, zelm::UnitStride>>& x
+#define UNIT_V_S(x, T)  const zelm::Vector<T, zelm::UnitStride>& x
+#define UNIT_VA_S(x, T) const zelm::Vectors<T, zelm::UnitStride>& x
+#define UNIT_VA_L(x, T) const zelm::VectorsL<T, zelm::UnitStride>& x
+#define UNIT_CA_S(x, T) const zelm::Constants<T>& x
+#define UNIT_CA_L(x, T) const zelm::ConstantsL<T>& x
 #define UNIT_C(x, T)    zelm::Constant<T> x
 #define UNIT_SIZE(x)    zelm::Size x
 #define UNIT_COUNT      zelm::Count count
