@@ -1,0 +1,94 @@
+#!/usr/bin/env python3
+"""What a shared object of the library must be: its exports, what it needs, no state, hardened."""
+import argparse
+import re
+import subprocess
+import sys
+
+NEEDED = {"libc.so.6", "libm.so.6", "libgomp.so.1", "libomp.so.5", "ld-linux-x86-64.so.2"}
+SONAME = "libzelmn8.so.6.1"
+CONSTRUCTORS = re.compile(r"\.(init|fini|preinit_array|init_array|fini_array|ctors|dtors)(\.|$)")
+# Sections that the loader writes once and then protects.
+RELOCATED = re.compile(r"\.(dynamic|got|got\.plt|data\.rel\.ro.*|relro_padding)$")
+# The lock of the one unnamed critical section, as the compilers name it; the second one wants 32 bytes.
+LOCK = re.compile(r"\.gomp_critical_user_")
+LOCK_BYTES = 32
+
+
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("library")
+    parser.add_argument("--header", required=True, help="the public header that says what is exported")
+    parser.add_argument("--text-limit", action="append", default=[], metavar="FAMILY=BYTES",
+                        help="most bytes of a family's functions, fronts and kernels and of all that they share")
+    arguments = parser.parse_args()
+    library, faults = arguments.library, []
+
+    with open(arguments.header, encoding="ascii") as file:
+        code = re.sub(r"/\*.*?\*/", "", file.read(), flags=re.S)
+    public = set(re.findall(r"\b(zelm\w+)\(", code))
+    exported = {line.split()[-1] for line in run("nm", "-D", "--defined-only", library).splitlines()}
+    if len(public) < 2:
+        faults.append("no functions found in the header")
+    faults += ["exported, but not in the header: " + name for name in sorted(exported - public)]
+    faults += ["in the header, but not exported: " + name for name in sorted(public - exported)]
+
+    dynamic = run("readelf", "-dW", library)
+    needed = set(re.findall(r"\(NEEDED\).*\[(.*)\]", dynamic))
+    faults += ["needs " + name for name in sorted(needed - NEEDED)]
+    if not needed & {"libgomp.so.1", "libomp.so.5"}:
+        faults.append("needs no OpenMP runtime")
+    if re.findall(r"\(SONAME\).*\[(.*)\]", dynamic) != [SONAME]:
+        faults.append("its SONAME is not " + SONAME)
+    if not re.search(r"\(FLAGS\).*BIND_NOW|\(FLAGS_1\).*\bNOW\b", dynamic):
+        faults.append("is bound lazily")
+    if "TEXTREL" in dynamic:
+        faults.append("has relocations in its text")
+
+    symbols = run("readelf", "-sW", library)
+    relro = None
+    for line in run("readelf", "-lW", library).splitlines():
+        fields = line.split()
+        if fields[:1] == ["GNU_RELRO"]:
+            relro = (int(fields[2], 16), int(fields[2], 16) + int(fields[5], 16))
+        if fields[:1] == ["GNU_STACK"] and "E" in fields[6:-1]:
+            faults.append("has an executable stack")
+    if relro is None:
+        faults.append("has no GNU_RELRO")
+    if "GNU_STACK" not in run("readelf", "-lW", library):
+        faults.append("does not say whether its stack is executable")
+
+    for name, address, size, flags in re.findall(r"\] (\.\S+)\s+\w+\s+([0-9a-f]+) [0-9a-f]+ ([0-9a-f]+) [0-9a-f]+\s+([A-Za-z]*) ",
+                                                 run("readelf", "-SW", library)):
+        address, size = int(address, 16), int(size, 16)
+        if CONSTRUCTORS.match(name):
+            faults.append("has " + name)
+        elif "W" in flags and size:
+            inside = relro and relro[0] <= address and address + size <= relro[1]
+            # Without symbols the lock cannot be told from other data: only its size can.
+            objects = re.findall(r"\bOBJECT\s+\w+\s+(\w+)\s+\w+\s+(\S+)", symbols)
+            locks = [n for visibility, n in objects if LOCK.match(n) and visibility == "HIDDEN"]
+            if name == ".bss" and size <= LOCK_BYTES and locks:
+                continue
+            if not RELOCATED.match(name) or not inside:
+                faults.append("has %d writable bytes in %s" % (size, name))
+
+    for limit in arguments.text_limit:
+        family, most = limit.split("=")
+        other = re.compile(r"zelm(?!%s_)[A-Z]\w*_[mtvc]" % family)
+        size = sum(int(fields[1], 16) for fields in map(str.split, run("nm", "-S", "--defined-only", library).splitlines())
+                   if len(fields) == 4 and fields[2] in "tTwWiV" and not other.search(fields[3]))
+        print("%s: %d bytes of code" % (family, size))
+        if not 0 < size <= int(most):
+            faults.append("%d bytes of code for %s, not 1 to %s" % (size, family, most))
+
+    for fault in faults:
+        print("%s: %s" % (library, fault))
+    sys.exit(1 if faults else 0)
+
+
+main()
