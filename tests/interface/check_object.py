@@ -55,7 +55,7 @@ def main():
         fields = line.split()
         if fields[:1] == ["GNU_RELRO"]:
             relro = (int(fields[2], 16), int(fields[2], 16) + int(fields[5], 16))
-        if fields[:1] == ["GNU_STACK"] and "E" in fields[6:-1]:
+        if fields[:1] == ["GNU_STACK"] and "E" in "".join(fields[6:-1]):
             faults.append("has an executable stack")
     if relro is None:
         faults.append("has no GNU_RELRO")
