@@ -114,7 +114,7 @@ def svg(cases):
     for name, counters in cases.items():
         for ratio in ratio_names(counters):
             panels.setdefault((group_of(name), ratio), []).append((name, counters))
-    bar, gap, plot_height, left, label_height, columns = 11, 9, 130, 44, 52, 2
+    bar, gap, plot_height, left, label_height, columns = 11, 9, 130, 44, 52, 4
     widest = max((len(entries) for entries in panels.values()), default=1)
     panel_width = left + widest * (2 * bar + gap) + 24
     panel_height = plot_height + label_height + 34
