@@ -1,0 +1,41 @@
+#!/bin/sh
+# Builds everything with warnings as errors and runs all tests: tools/test.sh [--sanitize]
+# CXX=clang++ takes clang and its OpenMP runtime; --sanitize builds with the address and undefined sanitizers.
+# Works on a fresh Debian 12.
+set -eu
+root=$(cd "$(dirname "$0")/.." && pwd)
+. "$root/tools/packages.sh"
+: "${CXX:=g++}"
+sanitize=""
+name=$(basename "$CXX")
+for argument in "$@"; do
+  case $argument in
+  --sanitize)
+    sanitize=address,undefined
+    name=$name-sanitize
+    ;;
+  *)
+    echo "usage: tools/test.sh [--sanitize]" >&2
+    exit 2
+    ;;
+  esac
+done
+
+need g++ cmake ninja-build libgtest-dev python3 pkg-config doxygen libpng-dev libeigen3-dev glmark2-data
+case $CXX in
+*clang++*)
+  CC=$(echo "$CXX" | sed 's/clang++/clang/')
+  case $CXX in
+  clang++) need clang clang-14 libomp-14-dev ;;
+  clang++-14) need clang-14 libomp-14-dev ;;
+  esac
+  ;;
+*) CC=$(echo "$CXX" | sed 's/g++/gcc/') ;;
+esac
+export CC CXX
+
+build=$root/build-test-$name
+cmake -G Ninja -S "$root" -B "$build" -DCMAKE_BUILD_TYPE=Release -DZELM_TESTS=ON -DZELM_BENCH=OFF -DZELM_EXAMPLES=ON \
+  -DZELM_WERROR=ON -DZELM_SANITIZE="$sanitize"
+cmake --build "$build" --parallel "$(nproc)"
+ctest --test-dir "$build" --output-on-failure --parallel "$(nproc)"
