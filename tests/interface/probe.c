@@ -18,7 +18,7 @@ static double draw(void) {
   return state & 64 ? value : value / 16777216.0;
 }
 
-static void print32(const char *name, int size, const Zel32f *result, int elements, ZelStatus status) {
+static void print32(const char* name, int size, const Zel32f* result, int elements, ZelStatus status) {
   int i;
   printf("%s %d %d", name, size, (int)status);
   for (i = 0; i < elements; ++i) {
@@ -29,7 +29,7 @@ static void print32(const char *name, int size, const Zel32f *result, int elemen
   printf("\n");
 }
 
-static void print64(const char *name, int size, const Zel64f *result, int elements, ZelStatus status) {
+static void print64(const char* name, int size, const Zel64f* result, int elements, ZelStatus status) {
   int i;
   printf("%s %d %d", name, size, (int)status);
   for (i = 0; i < elements; ++i) {
@@ -62,17 +62,17 @@ static void print64(const char *name, int size, const Zel64f *result, int elemen
       elements2[i] = second_##t + COUNT * i;                                                                           \
       elements3[i] = result_##t + COUNT * i;                                                                           \
     }                                                                                                                  \
-    print("mam", n, result_##t, all,                                                                                   \
-          zelmAdd_mam_##t(first_##t, e * n * n, e * n, e, second_##t, e * n, e, result_##t, e * n * n, e * n, e, n, n, \
-                          COUNT));                                                                                     \
-    print("tam", n, result_##t, all,                                                                                   \
-          zelmAdd_tam_##t(first_##t, e * n * n, e * n, e, second_##t, e * n, e, result_##t, e * n * n, e * n, e, n, n, \
-                          COUNT));                                                                                     \
+    print(                                                                                                             \
+        "mam", n, result_##t, all,                                                                                     \
+        zelmAdd_mam_##t(first_##t, e* n* n, e* n, e, second_##t, e* n, e, result_##t, e* n* n, e* n, e, n, n, COUNT)); \
+    print(                                                                                                             \
+        "tam", n, result_##t, all,                                                                                     \
+        zelmAdd_tam_##t(first_##t, e* n* n, e* n, e, second_##t, e* n, e, result_##t, e* n* n, e* n, e, n, n, COUNT)); \
     print("mama", n, result_##t, all,                                                                                  \
-          zelmAdd_mama_##t(first_##t, e * n * n, e * n, e, second_##t, e * n * n, e * n, e, result_##t, e * n * n,     \
-                           e * n, e, n, n, COUNT));                                                                    \
+          zelmAdd_mama_##t(first_##t, e* n* n, e* n, e, second_##t, e* n* n, e* n, e, result_##t, e* n* n, e* n, e, n, \
+                           n, COUNT));                                                                                 \
     print("tata_L", n, result_##t, all,                                                                                \
-          zelmAdd_tata_##t##_L(list1, 0, e * n, e, list2, 0, e * n, e, list3, 0, e * n, e, n, n, COUNT));              \
+          zelmAdd_tata_##t##_L(list1, 0, e* n, e, list2, 0, e* n, e, list3, 0, e* n, e, n, n, COUNT));                 \
     print("mama_P", n, result_##t, all,                                                                                \
           zelmAdd_mama_##t##_P(elements1, 0, e, elements2, 0, e, elements3, 0, e, n, n, COUNT));                       \
   }
@@ -84,7 +84,7 @@ PROBE(Zel64f, 64f, print64)
 
 int main(void) {
   char line[4096];
-  FILE *maps = fopen("/proc/self/maps", "r");
+  FILE* maps = fopen("/proc/self/maps", "r");
   int n;
   while (maps && fgets(line, sizeof line, maps))
     if (strstr(line, "libzelmn8.so") && strchr(line, '/')) {

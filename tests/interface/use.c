@@ -7,7 +7,7 @@
 
 static int failures = 0;
 
-static void check(int good, const char *what) {
+static void check(int good, const char* what) {
   if (!good) {
     ++failures;
     printf("failed: %s\n", what);
@@ -37,7 +37,7 @@ static void checkTypes(void) {
 }
 
 static void checkVersion(void) {
-  const ZelLibVersion *version = zelmGetLibVersion();
+  const ZelLibVersion* version = zelmGetLibVersion();
   CHECK(offsetof(ZelLibVersion, major) == 0);
   CHECK(offsetof(ZelLibVersion, minor) == 4);
   CHECK(offsetof(ZelLibVersion, majorBuild) == 8);
@@ -59,7 +59,7 @@ static void checkCalls(void) {
   const Zel32f a[2][3] = {{1, 2, 3}, {4, 5, 6}}, t[3][2] = {{10, 40}, {20, 50}, {30, 60}};
   const Zel64f b[2][2][3] = {{{1, 2, 3}, {4, 5, 6}}, {{7, 8, 9}, {10, 11, 12}}};
   const Zel32f *aList[6], *tList[6];
-  const Zel64f *bList[2];
+  const Zel64f* bList[2];
   Zel32f sum[2][3], sumP[2][3], *sumList[6];
   Zel64f sums[2][2][3], *sumsList[2];
   int i, j, k;
