@@ -253,10 +253,10 @@ template <class T> struct MatrixP : Argument {
   using Element = std::remove_const_t<T>;
   static constexpr bool isArray = false;
   T* const* list;
-  int32_t shift;
-  constexpr MatrixP(T* const* x, int32_t bytes) : list(x), shift(bytes) {}
+  int64_t shift;
+  constexpr MatrixP(T* const* x, int64_t bytes) : list(x), shift(bytes) {}
   constexpr bool null() const { return list == nullptr; }
-  constexpr bool badShift() const { return isBadShift<T>(shift); }
+  constexpr bool badShift() const { return isBadShift<T>(static_cast<int32_t>(shift)); }
   template <class> constexpr MatrixP forKernel() const { return *this; }
   constexpr MatrixP advanced(const Share&) const { return *this; }
   ZELM_INLINE int64_t objectStride() const { return 0; }
@@ -346,6 +346,8 @@ template <class T> struct MatricesP : Argument {
   constexpr bool badShift() const { return isBadShift<T>(static_cast<int32_t>(offset)); }
   template <class> constexpr MatricesP forKernel() const { return *this; }
   constexpr MatricesP advanced(const Share& share) const { return {list, offset + share.first * stride0, stride0}; }
+  // Object k as a single operand.
+  MatrixP<T> single(int64_t k) const { return {list, offset + k * stride0}; }
   ZELM_INLINE int64_t objectStride() const { return stride0; }
   ZELM_INLINE auto object(int64_t k, int64_t rowLength) const {
     return PointerMatrixView<T>{list, offset + k * stride0, rowLength, 1};
