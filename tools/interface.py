@@ -233,8 +233,6 @@ def parameter_text(parameter):
 def prototype(function, width=120):
     """A prototype, broken as the formatter breaks it."""
     head = "%s %s(" % (function.returns, function.name)
-    if function.returns.endswith("*"):
-        head = "%s %s(" % (function.returns, function.name)
     items = [parameter_text(p) for p in function.parameters] or ["void"]
     lines, line = [], head
     for i, item in enumerate(items):
@@ -248,7 +246,8 @@ def prototype(function, width=120):
 
 
 def one_line(function):
-    return "%s %s(%s)" % (function.returns, function.name, ", ".join(map(parameter_text, function.parameters)) or "void")
+    parameters = ", ".join(map(parameter_text, function.parameters)) or "void"
+    return "%s %s(%s)" % (function.returns, function.name, parameters)
 
 
 # ---------------------------------------------------------------------------------------------------- the header
@@ -361,7 +360,7 @@ def man_pages():
         for form in (group.single + " " + group.array).split():
             title = "zelm" + group.family + ("" if form == "-" else "_" + form)
             members = [f for f in functions_of(group) if f.form == form]
-            synopsis = [line for f in members for line in prototype(f, 78).split("\n") + [""]][:-1]
+            synopsis = [line for f in members for line in prototype(f, 71).split("\n") + [""]][:-1]
             sections = [("Description", ["  " + told["forms"][form]] + told["what"])] + list(group_sections(group))
             sections.append(("See also", ["zelm(3) for layouts, units and statuses."]))
             pages[title + ".3"] = man_page(title, [f.name for f in members], told["title"], synopsis, sections)
@@ -376,8 +375,8 @@ def man_pages():
 def example_programs():
     for group in GROUPS:
         if group.key in THIS_VERSION:
-            yield "example_%s.c" % group.key, "#include <zelm.h>\n\nint main(void) {\n%s\n  return status;\n}\n" % "\n".join(
-                text.GROUPS[group.key]["example"])
+            body = "\n".join(text.GROUPS[group.key]["example"])
+            yield "example_%s.c" % group.key, "#include <zelm.h>\n\nint main(void) {\n%s\n  return status;\n}\n" % body
 
 
 def write(path, content):

@@ -43,7 +43,8 @@ def main():
     shutil.copy(baseline, alone)
 
     def probe(directory, **environment):
-        lines = run([arguments.probe], {"LD_LIBRARY_PATH": directory + ":" + arguments.runtime, **environment}).splitlines()
+        path = {"LD_LIBRARY_PATH": directory + ":" + arguments.runtime}
+        lines = run([arguments.probe], {**path, **environment}).splitlines()
         return lines[0], lines[1:]
 
     masked = {"GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2"}
@@ -66,7 +67,7 @@ def main():
         different = [a.split()[:2] for a, b in zip(bits, other) if a != b]
         if different or len(bits) != len(other):
             faults.append("other bits (%s): %s" % (name, different))
-    print("%d calls, %s" % (len(bits), "both builds" if has_v3({}) else "the baseline only: the processor lacks x86-64-v3"))
+    print("%d calls, %s" % (len(bits), "both builds" if has_v3({}) else "the baseline alone: no x86-64-v3 here"))
     for fault in faults:
         print(fault)
     sys.exit(1 if faults else 0)

@@ -10,9 +10,11 @@ SONAME = "libzelmn8.so.6.1"
 CONSTRUCTORS = re.compile(r"\.(init|fini|preinit_array|init_array|fini_array|ctors|dtors)(\.|$)")
 # Sections that the loader writes once and then protects.
 RELOCATED = re.compile(r"\.(dynamic|got|got\.plt|data\.rel\.ro.*|relro_padding)$")
-# The lock of the one unnamed critical section, as the compilers name it; the second one wants 32 bytes.
+# The lock of the one unnamed critical section, where it is not in the runtime itself: the only state there may be.
 LOCK = re.compile(r"\.gomp_critical_user_")
 LOCK_BYTES = 32
+# A line of readelf -SW: number, name, type, address, offset, size, size of an entry, flags.
+SECTION = re.compile(r"\[ *(\d+)\] (\.\S+)\s+\w+\s+([0-9a-f]+) [0-9a-f]+ ([0-9a-f]+) [0-9a-f]+\s+([A-Za-z]*) ")
 
 
 def run(*command):
@@ -62,17 +64,14 @@ def main():
     if "GNU_STACK" not in run("readelf", "-lW", library):
         faults.append("does not say whether its stack is executable")
 
-    for name, address, size, flags in re.findall(r"\] (\.\S+)\s+\w+\s+([0-9a-f]+) [0-9a-f]+ ([0-9a-f]+) [0-9a-f]+\s+([A-Za-z]*) ",
-                                                 run("readelf", "-SW", library)):
+    for index, name, address, size, flags in re.findall(SECTION, run("readelf", "-SW", library)):
         address, size = int(address, 16), int(size, 16)
         if CONSTRUCTORS.match(name):
             faults.append("has " + name)
         elif "W" in flags and size:
             inside = relro and relro[0] <= address and address + size <= relro[1]
-            # Without symbols the lock cannot be told from other data: only its size can.
-            objects = re.findall(r"\bOBJECT\s+\w+\s+(\w+)\s+\w+\s+(\S+)", symbols)
-            locks = [n for visibility, n in objects if LOCK.match(n) and visibility == "HIDDEN"]
-            if name == ".bss" and size <= LOCK_BYTES and locks:
+            objects = re.findall(r"OBJECT\s+LOCAL\s+\w+\s+%s (\S+)" % index, symbols)
+            if name == ".bss" and size <= LOCK_BYTES and len(objects) == 1 and LOCK.match(objects[0]):
                 continue
             if not RELOCATED.match(name) or not inside:
                 faults.append("has %d writable bytes in %s" % (size, name))
@@ -80,7 +79,8 @@ def main():
     for limit in arguments.text_limit:
         family, most = limit.split("=")
         other = re.compile(r"zelm(?!%s_)[A-Z]\w*_[mtvc]" % family)
-        size = sum(int(fields[1], 16) for fields in map(str.split, run("nm", "-S", "--defined-only", library).splitlines())
+        lines = [line.split() for line in run("nm", "-S", "--defined-only", library).splitlines()]
+        size = sum(int(fields[1], 16) for fields in lines
                    if len(fields) == 4 and fields[2] in "tTwWiV" and not other.search(fields[3]))
         print("%s: %d bytes of code" % (family, size))
         if not 0 < size <= int(most):

@@ -33,7 +33,8 @@ def main():
     faults = []
     shutil.rmtree(arguments.work, ignore_errors=True)
     try:
-        run(arguments.cpack, "-G", "DEB", "-B", arguments.work, "--config", os.path.join(arguments.build, "CPackConfig.cmake"))
+        run(arguments.cpack, "-G", "DEB", "-B", arguments.work, "--config",
+            os.path.join(arguments.build, "CPackConfig.cmake"))
     except subprocess.CalledProcessError as error:
         sys.exit(error.stdout + error.stderr)
 
