@@ -1,6 +1,11 @@
 // Sums of matrices.
 #include "../harness/job.h"
 
+#include <gtest/gtest.h>
+
+#include <numeric>
+#include <omp.h>
+
 namespace {
 
 using namespace zelmtest;
@@ -45,5 +50,41 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+// Packed batches whose result is larger than any cache, with dst at every offset from a vector.
+template <class T, class Call> void huge(int arrays, Call call) {
+  constexpr int side = 3, count = (100 << 20) / static_cast<int>(side * side * sizeof(T)) + 5;
+  constexpr size_t each = side * side, n = each * static_cast<size_t>(count);
+  omp_set_num_threads(1);
+  std::vector<T> a(n), b(arrays == 2 ? n : each), result(n + 16);
+  std::iota(a.begin(), a.end(), T(1) / 3);
+  std::iota(b.begin(), b.end(), T(7));
+  for (size_t offset : {size_t{0}, size_t{1}, size_t{3}}) {
+    std::fill(result.begin(), result.end(), T(-1));
+    ASSERT_EQ(zelStatusOk, call(a.data(), b.data(), &result[offset], side * static_cast<int>(sizeof(T)), count));
+    for (size_t i = 0; i < result.size(); ++i) {
+      T expected = i < offset || i >= offset + n ? T(-1) : a[i - offset] + b[(i - offset) % b.size()];
+      ASSERT_EQ(expected, result[i]) << "element " << i << " at offset " << offset;
+    }
+  }
+}
+
+TEST(Huge, Add_mam) {
+  huge<float>(1, [](auto* a, auto* b, auto* d, int row, int count) {
+    return zelmAdd_mam_32f(a, 3 * row, row, 4, b, row, 4, d, 3 * row, row, 4, 3, 3, count);
+  });
+  huge<double>(1, [](auto* a, auto* b, auto* d, int row, int count) {
+    return zelmAdd_mam_64f(a, 3 * row, row, 8, b, row, 8, d, 3 * row, row, 8, 3, 3, count);
+  });
+}
+
+TEST(Huge, Add_mama) {
+  huge<float>(2, [](auto* a, auto* b, auto* d, int row, int count) {
+    return zelmAdd_mama_32f(a, 3 * row, row, 4, b, 3 * row, row, 4, d, 3 * row, row, 4, 3, 3, count);
+  });
+  huge<double>(2, [](auto* a, auto* b, auto* d, int row, int count) {
+    return zelmAdd_mama_64f(a, 3 * row, row, 8, b, 3 * row, row, 8, d, 3 * row, row, 8, 3, 3, count);
+  });
+}
 
 } // namespace

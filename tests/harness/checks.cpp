@@ -143,6 +143,18 @@ void results(const Member& m) {
                                        : m.square(rng.within(3, 6), 1);
     add(sizes, plans);
   }
+  // Batches of many small objects.
+  for (int n : {1, 2, 3, 4, 5, 6, 7})
+    for (int i = 0; m.hasCount && i < 8; ++i) {
+      CaseSpec spec;
+      spec.sizes = m.square(n, rng.within(100, n < 5 ? 900 : 300));
+      for (size_t o = 0; o < m.operands.size(); ++o)
+        spec.plans.push_back(i < 2   ? planOf(Spread::Packed, true, rng.below(4) * m.elem)
+                             : i < 5 ? planOf(Spread::ObjectsInside, rng.chance(2))
+                                     : randomPlan(m, rng, i < 6));
+      spec.dataKind = dataKind(m, rng);
+      cases.add(spec);
+    }
   for (int source : inPlaceSources(m))
     for (const Sizes& sizes : shapes)
       for (int i = 0; i < 6; ++i) {
