@@ -1,0 +1,342 @@
+// Cholesky decomposition A = L * transpose(L) and the solution of systems with it.
+//
+// The factor holds 1 / L(i, i) on its diagonal. Above the diagonal nothing is read and nothing is written, in sources
+// and results alike: rows are loaded and stored up to the diagonal.
+#pragma once
+
+#include "zelmblock.h"
+
+// clang-format off
+#define CHOLESKY_FACTOR(V, T, S, D)      V##_##S(src, const T), V##_##D(dst, T), V##_SIZE(widthHeight)
+#define CHOLESKY_FACTOR_M_S(V, T)        CHOLESKY_FACTOR(V, T, M_S, M_S)
+#define CHOLESKY_FACTOR_M_P(V, T)        CHOLESKY_FACTOR(V, T, M_P, M_P)
+#define CHOLESKY_FACTOR_MA_S(V, T)       CHOLESKY_FACTOR(V, T, MA_S, MA_S), V##_COUNT
+#define CHOLESKY_FACTOR_MA_L(V, T)       CHOLESKY_FACTOR(V, T, MA_L, MA_L), V##_COUNT
+#define CHOLESKY_FACTOR_MA_P(V, T)       CHOLESKY_FACTOR(V, T, MA_P, MA_P), V##_COUNT
+
+#define CHOLESKY_SOLVE(V, T, M, B, X)    V##_##M(src1, const T), V##_##B(src2, const T), V##_##X(dst, T), V##_SIZE(widthHeight)
+#define CHOLESKY_SOLVE_MV_S(V, T)        CHOLESKY_SOLVE(V, T, M_S, V_S, V_S)
+#define CHOLESKY_SOLVE_MV_P(V, T)        CHOLESKY_SOLVE(V, T, M_P, V_P, V_P)
+#define CHOLESKY_SOLVE_MVA_S(V, T)       CHOLESKY_SOLVE(V, T, M_S, VA_S, VA_S), V##_COUNT
+#define CHOLESKY_SOLVE_MVA_L(V, T)       CHOLESKY_SOLVE(V, T, M_S, VA_L, VA_L), V##_COUNT
+#define CHOLESKY_SOLVE_MVA_P(V, T)       CHOLESKY_SOLVE(V, T, M_P, VA_P, VA_P), V##_COUNT
+#define CHOLESKY_SOLVE_MAVA_S(V, T)      CHOLESKY_SOLVE(V, T, MA_S, VA_S, VA_S), V##_COUNT
+#define CHOLESKY_SOLVE_MAVA_L(V, T)      CHOLESKY_SOLVE(V, T, MA_L, VA_L, VA_L), V##_COUNT
+#define CHOLESKY_SOLVE_MAVA_P(V, T)      CHOLESKY_SOLVE(V, T, MA_P, VA_P, VA_P), V##_COUNT
+// clang-format on
+
+namespace zelm {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Reciprocal roots of pivots
+
+// 1 / sqrt(d), root and division in double, rounded once.
+struct WidenedRoot {
+  ZELM_INLINE static double reciprocal(double d) { return 1 / squareRoot(d); }
+  ZELM_INLINE static float reciprocal(float d) { return static_cast<float>(reciprocal(static_cast<double>(d))); }
+#ifdef __AVX2__
+  ZELM_INLINE static Lanes<double, 4> reciprocal(Lanes<double, 4> d) {
+    return 1 / squareRoot(d);
+  }
+  ZELM_INLINE static Lanes<float, 8> reciprocal(Lanes<float, 8> d) {
+    const Lanes<double, 4> low = _mm256_cvtps_pd(lowHalf(d));
+    const Lanes<double, 4> high = _mm256_cvtps_pd(highHalf(d));
+    return joinHalves(_mm256_cvtpd_ps(reciprocal(low)), _mm256_cvtpd_ps(reciprocal(high)));
+  }
+#else
+  ZELM_INLINE static Lanes<double, 2> reciprocal(Lanes<double, 2> d) {
+    return 1 / squareRoot(d);
+  }
+  ZELM_INLINE static Lanes<float, 4> reciprocal(Lanes<float, 4> d) {
+    const Lanes<double, 2> low = _mm_cvtps_pd(d);
+    const Lanes<double, 2> high = _mm_cvtps_pd(_mm_movehl_ps(d, d));
+    return _mm_movelh_ps(_mm_cvtpd_ps(reciprocal(low)), _mm_cvtpd_ps(reciprocal(high)));
+  }
+#endif
+};
+
+// The root rounded to the element type, and the division in it.
+struct RoundedRoot {
+  template <class T> ZELM_INLINE static T reciprocal(T d) { return 1 / squareRoot(d); }
+};
+
+// ---------------------------------------------------------------------------------------------------------------------
+// What differs between the kernels of the decomposition: the limit that a pivot has to exceed, by side, and the root
+// of the general loop
+
+struct AboveZero {
+  using GeneralRoot = WidenedRoot;
+  static constexpr double limit(int) { return 0; }
+};
+// Pointer layout: 2^-23 at side 3, for `64f` too.
+struct AboveEpsilonAt3 {
+  using GeneralRoot = WidenedRoot;
+  static constexpr double limit(int side) { return side == 3 ? 0x1p-23 : 0; }
+};
+struct AboveEpsilonAt3RoundedRoot : AboveEpsilonAt3 {
+  using GeneralRoot = RoundedRoot;
+};
+// Side 6 and the general loop.
+struct AboveEpsilonFrom6On {
+  using GeneralRoot = WidenedRoot;
+  static constexpr double limit(int side) { return side >= 3 && side <= 5 ? 0 : 0x1p-52; }
+};
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Arithmetic, on an object or on a block of them
+
+// The lower triangle, row after row.
+template <class L> struct Triangle {
+  L* element;
+  static constexpr int rowStart(int i) { return i * (i + 1) / 2; }
+  ZELM_INLINE L load(int i, int j) const { return element[rowStart(i) + j]; }
+  ZELM_INLINE void store(int i, int j, L value) const { element[rowStart(i) + j] = value; }
+};
+
+template <class L> struct Sequence {
+  L* element;
+  ZELM_INLINE L load(int i) const { return element[i]; }
+  ZELM_INLINE void store(int i, L value) const { element[i] = value; }
+};
+
+// Row after row; false at the first pivot that the limit is greater than or equal to in any lane. A NaN passes.
+template <class L, class Root, class Source, class Factor, class Side>
+ZELM_INLINE bool choleskyFactor(const Source& src, const Factor& dst, Side side, ElementOf<L> limit) {
+  return whileAscending(Fixed<0>{}, side, [&](auto i) ZELM_BODY {
+    ascending(Fixed<0>{}, i, [&](auto j) ZELM_BODY {
+      L s = src.load(i, j);
+      ascending(Fixed<0>{}, j, [&](auto k) ZELM_BODY { s = s - dst.load(i, k) * dst.load(j, k); });
+      dst.store(i, j, s * dst.load(j, j));
+    });
+    L d = src.load(i, i);
+    ascending(Fixed<0>{}, i, [&](auto k) ZELM_BODY { d = d - dst.load(i, k) * dst.load(i, k); });
+    if (anyLane(splat<L>(limit) >= d))
+      return false;
+    dst.store(i, i, Root::reciprocal(d));
+    return true;
+  });
+}
+
+// Forwards with L, then backwards with its transpose by columns of L; every division is a product with the reciprocal.
+template <class L, class Factor, class Right, class Result, class Side>
+ZELM_INLINE void choleskySolve(const Factor& factor, const Right& right, const Result& result, Side side) {
+  ascending(Fixed<0>{}, side, [&](auto i) ZELM_BODY {
+    L y = right.load(i);
+    ascending(Fixed<0>{}, i, [&](auto j) ZELM_BODY { y = y - factor.load(i, j) * result.load(j); });
+    result.store(i, y * factor.load(i, i));
+  });
+  descending(Fixed<0>{}, side, [&](auto i) ZELM_BODY {
+    L x = result.load(i);
+    descending(next(i), side, [&](auto j) ZELM_BODY { x = x - factor.load(j, i) * result.load(j); });
+    result.store(i, x * factor.load(i, i));
+  });
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Decomposition
+
+using StraightSides = Sizes<3, 4, 5, 6>;
+
+template <int N> constexpr int triangleElements = N*(N + 1) / 2;
+
+template <int N, class Pivots, class Source, class Result>
+ZELM_INLINE ZelStatus choleskyFactorFixed(Pivots, const Source& src, const Result& dst) {
+  using T = typename Result::Element;
+  T element[triangleElements<N>];
+  const Triangle<T> triangle{element};
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
+    ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY { triangle.store(i, j, src.load(i, j)); });
+  });
+  const auto storeRow = [&](auto i) ZELM_BODY {
+    ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY { dst.store(i, j, triangle.load(i, j)); });
+  };
+  if (choleskyFactor<T, WidenedRoot>(triangle, triangle, Fixed<N>{}, static_cast<T>(Pivots::limit(N)))) {
+    ascending(Fixed<0>{}, Fixed<N>{}, storeRow);
+    return zelStatusOk;
+  }
+  // Up to the row of the failing pivot everything is finished, and is stored.
+  choleskyFactor<T, WidenedRoot>(src, dst, static_cast<int>(N), static_cast<T>(Pivots::limit(N)));
+  return zelStatusNotPositiveDefinite;
+}
+
+template <class Pivots, class Source, class Result>
+ZELM_INLINE ZelStatus choleskyFactorGeneral(Pivots, const Source& src, const Result& dst, int32_t side) {
+  using T = typename Result::Element;
+  const auto limit = static_cast<T>(Pivots::limit(side));
+  return choleskyFactor<T, typename Pivots::GeneralRoot>(src, dst, static_cast<int>(side), limit)
+             ? zelStatusOk
+             : zelStatusNotPositiveDefinite;
+}
+
+// Single objects.
+template <class Pivots, class Source, class Result>
+ZELM_INLINE ZelStatus choleskyFactors(Pivots pivots, const Source& src, const Result& dst, int32_t side) {
+  const auto source = src.object(0, side);
+  const auto result = dst.object(0, side);
+  return forSize(
+      StraightSides{}, side,
+      [&](auto fixed) ZELM_BODY { return choleskyFactorFixed<decltype(fixed)::value>(pivots, source, result); },
+      [&]() ZELM_BODY { return choleskyFactorGeneral(pivots, source, result, side); });
+}
+
+// A block; nothing is stored unless every lane has all its pivots.
+template <int N, class Source, class Result>
+__attribute__((noinline)) bool choleskyFactorBlock(const Source& src, const Result& dst,
+                                                   typename Result::Element limit) {
+  using L = Lanes<typename Result::Element>;
+  L element[triangleElements<N>];
+  const Triangle<L> triangle{element};
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { src.load(i, 0, next(i), element + triangle.rowStart(i)); });
+  if (!choleskyFactor<L, WidenedRoot>(triangle, triangle, Fixed<N>{}, limit))
+    return false;
+  ascending(Fixed<0>{}, Fixed<N>{},
+            [&](auto i) ZELM_BODY { dst.store(i, 0, next(i), element + triangle.rowStart(i)); });
+  return true;
+}
+
+// Batches. general(k) is object k of a side without straight-line code.
+template <class Pivots, class Source, class Result, class General>
+ZELM_INLINE ZelStatus choleskyFactorBatch(Pivots pivots, const Source& src, const Result& dst, int32_t side,
+                                          int32_t count, const General& general) {
+  using T = typename Result::Element;
+  return forSize(
+      StraightSides{}, side,
+      [&](auto fixed) ZELM_BODY {
+        constexpr int N = decltype(fixed)::value;
+        return forBlocks<T, isPointerLayout<Source>>(
+            count, areNeighbours(src) && areNeighbours(dst),
+            [&](auto block) ZELM_BODY {
+              return choleskyFactorBlock<N>(matrixBlock(src, block, N), matrixBlock(dst, block, N),
+                                            static_cast<T>(Pivots::limit(N)));
+            },
+            [&](int64_t k) ZELM_BODY { return choleskyFactorFixed<N>(pivots, src.object(k, N), dst.object(k, N)); });
+      },
+      [&]() ZELM_BODY {
+        for (int64_t k = 0; k < count; ++k)
+          if (const ZelStatus status = general(k); status != zelStatusOk)
+            return status;
+        return ZelStatus{zelStatusOk};
+      });
+}
+
+template <class Pivots, class Source, class Result>
+ZELM_INLINE ZelStatus choleskyFactors(Pivots pivots, const Source& src, const Result& dst, int32_t side,
+                                      int32_t count) {
+  return choleskyFactorBatch(pivots, src, dst, side, count, [&](int64_t k) ZELM_BODY {
+    return choleskyFactorGeneral(pivots, src.object(k, side), dst.object(k, side), side);
+  });
+}
+
+// Pointer layout: the other sides go to the kernel of the single object, which Single names.
+template <class Single, class Source, class Result>
+ZELM_INLINE ZelStatus choleskyFactorsBySingle(Single, const Source& src, const Result& dst, Size side, int32_t count) {
+  return choleskyFactorBatch(typename Single::Pivots{}, src, dst, side, count,
+                             [&](int64_t k) ZELM_BODY { return Single::kernel(src.single(k), dst.single(k), side); });
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Back substitution
+
+template <int N, class Factor, class Right, class Result>
+ZELM_INLINE void choleskySolveFixed(const Factor& factor, const Right& right, const Result& dst) {
+  using T = typename Result::Element;
+  T element[N];
+  const Sequence<T> x{element};
+  choleskySolve<T>(factor, right, x, Fixed<N>{});
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { dst.store(i, x.load(i)); });
+}
+
+// Single objects.
+struct Straight3To6 {};
+template <class Factor, class Right, class Result>
+ZELM_INLINE ZelStatus choleskySolutions(Straight3To6, const Factor& src1, const Right& src2, const Result& dst,
+                                        int32_t side) {
+  using T = typename Result::Element;
+  const auto factor = src1.object(0, side);
+  const auto right = src2.object(0);
+  const auto result = dst.object(0);
+  return forSize(
+      StraightSides{}, side,
+      [&](auto fixed) ZELM_BODY {
+        choleskySolveFixed<decltype(fixed)::value>(factor, right, result);
+        return zelStatusOk;
+      },
+      [&]() ZELM_BODY {
+        choleskySolve<T>(factor, right, result, static_cast<int>(side));
+        return zelStatusOk;
+      });
+}
+
+template <int N, class L, class Right, class Result>
+ZELM_INLINE void choleskySolveLanes(const L* factor, const Right& right, const Result& dst) {
+  L element[N];
+  const Sequence<L> x{element};
+  right.load(0, 0, Fixed<N>{}, element);
+  choleskySolve<L>(Triangle<const L>{factor}, x, x, Fixed<N>{});
+  dst.store(0, 0, Fixed<N>{}, element);
+}
+
+// A factor for each lane.
+template <int N, class Factor, class Right, class Result>
+__attribute__((noinline)) void choleskySolveBlock(const Factor& factor, const Right& right, const Result& dst) {
+  using L = Lanes<typename Result::Element>;
+  L element[triangleElements<N>];
+  ascending(Fixed<0>{}, Fixed<N>{},
+            [&](auto i) ZELM_BODY { factor.load(i, 0, next(i), element + Triangle<L>::rowStart(i)); });
+  choleskySolveLanes<N>(element, right, dst);
+}
+
+// One factor for all lanes.
+template <int N, class L, class Right, class Result>
+__attribute__((noinline)) void choleskySolveBlock(const L* factor, const Right& right, const Result& dst) {
+  choleskySolveLanes<N>(factor, right, dst);
+}
+
+// Batches.
+template <class Factor, class Right, class Result>
+ZELM_INLINE ZelStatus choleskySolutions(Straight3To6, const Factor& src1, const Right& src2, const Result& dst,
+                                        int32_t side, int32_t count) {
+  using T = typename Result::Element;
+  return forSize(
+      StraightSides{}, side,
+      [&](auto fixed) ZELM_BODY {
+        constexpr int N = decltype(fixed)::value;
+        bool neighbours = areNeighbours(src2) && areNeighbours(dst);
+        const auto single = [&](int64_t k) ZELM_BODY {
+          choleskySolveFixed<N>(src1.object(k, N), src2.object(k), dst.object(k));
+          return zelStatusOk;
+        };
+        if constexpr (Factor::isArray) {
+          neighbours = neighbours && areNeighbours(src1);
+          return forBlocks<T, isPointerLayout<Result>>(
+              count, neighbours,
+              [&](auto block) ZELM_BODY {
+                choleskySolveBlock<N>(matrixBlock(src1, block, N), vectorBlock(src2, block), vectorBlock(dst, block));
+                return true;
+              },
+              single);
+        } else {
+          Lanes<T> factor[triangleElements<N>];
+          ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
+            ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY {
+              factor[Triangle<T>::rowStart(i) + j] = splat<Lanes<T>>(src1.object(0, N).load(i, j));
+            });
+          });
+          return forBlocks<T, isPointerLayout<Result>>(
+              count, neighbours,
+              [&](auto block) ZELM_BODY {
+                choleskySolveBlock<N>(static_cast<const Lanes<T>*>(factor), vectorBlock(src2, block),
+                                      vectorBlock(dst, block));
+                return true;
+              },
+              single);
+        }
+      },
+      [&]() ZELM_BODY {
+        for (int64_t k = 0; k < count; ++k)
+          choleskySolve<T>(src1.object(k, side), src2.object(k), dst.object(k), static_cast<int>(side));
+        return zelStatusOk;
+      });
+}
+
+} // namespace zelm

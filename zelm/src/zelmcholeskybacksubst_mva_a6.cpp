@@ -1,0 +1,8 @@
+// Kernels on four-wide `32f` vectors: solution of systems with one Cholesky factor, unit strides.
+#include "zelmcholesky.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  straight-line sides
+KERNEL(ownzelmCholeskyBackSubst_mva_32f,   CHOLESKY_SOLVE_MVA_S, UNIT, float, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_32f_L, CHOLESKY_SOLVE_MVA_L, UNIT, float, choleskySolutions, Straight3To6)
+// clang-format on

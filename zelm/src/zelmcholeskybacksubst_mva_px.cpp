@@ -1,0 +1,12 @@
+// Portable kernels: solution of systems with one Cholesky factor, any strides and pointer layout.
+#include "zelmcholesky.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  straight-line sides
+KERNEL(ownzelmCholeskyBackSubst_mva_32f_S2,  CHOLESKY_SOLVE_MVA_S, ANY, float,  choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_64f_S2,  CHOLESKY_SOLVE_MVA_S, ANY, double, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_32f_LS2, CHOLESKY_SOLVE_MVA_L, ANY, float,  choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_64f_LS2, CHOLESKY_SOLVE_MVA_L, ANY, double, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_32f_P,   CHOLESKY_SOLVE_MVA_P, ANY, float,  choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_64f_P,   CHOLESKY_SOLVE_MVA_P, ANY, double, choleskySolutions, Straight3To6)
+// clang-format on

@@ -1,0 +1,8 @@
+// Kernels on two-wide `64f` vectors: solution of systems with one Cholesky factor, unit strides.
+#include "zelmcholesky.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  straight-line sides
+KERNEL(ownzelmCholeskyBackSubst_mva_64f,   CHOLESKY_SOLVE_MVA_S, UNIT, double, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_64f_L, CHOLESKY_SOLVE_MVA_L, UNIT, double, choleskySolutions, Straight3To6)
+// clang-format on

@@ -1,0 +1,7 @@
+// Kernels on four-wide `32f` vectors: Cholesky decomposition of a matrix, unit strides.
+#include "zelmcholesky.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  pivots
+KERNEL(ownzelmCholeskyDecomp_m_32f, CHOLESKY_FACTOR_M_S, UNIT, float, choleskyFactors, AboveZero)
+// clang-format on

@@ -1,0 +1,7 @@
+// Kernels on two-wide `64f` vectors: Cholesky decomposition of a matrix, unit strides.
+#include "zelmcholesky.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  pivots
+KERNEL(ownzelmCholeskyDecomp_m_64f, CHOLESKY_FACTOR_M_S, UNIT, double, choleskyFactors, AboveZero)
+// clang-format on

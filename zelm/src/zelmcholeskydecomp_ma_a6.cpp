@@ -1,0 +1,8 @@
+// Kernels on four-wide `32f` vectors: Cholesky decomposition of an array of matrices, unit strides.
+#include "zelmcholesky.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  pivots
+KERNEL(ownzelmCholeskyDecomp_ma_32f,   CHOLESKY_FACTOR_MA_S, UNIT, float, choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_ma_32f_L, CHOLESKY_FACTOR_MA_L, UNIT, float, choleskyFactors, AboveZero)
+// clang-format on

@@ -1,0 +1,32 @@
+// Portable kernels: Cholesky decomposition of an array of matrices, any strides and pointer layout.
+#include "zelmcholesky.h"
+
+ZELM_DECLARE(ownzelmCholeskyDecomp_m_32f_P, CHOLESKY_FACTOR_M_P, ANY, float);
+ZELM_DECLARE(ownzelmCholeskyDecomp_m_64f_P, CHOLESKY_FACTOR_M_P, ANY, double);
+
+namespace zelm {
+
+struct Single32fP {
+  using Pivots = AboveEpsilonAt3;
+  static constexpr auto kernel = ownzelmCholeskyDecomp_m_32f_P;
+};
+struct Single64fP {
+  using Pivots = AboveEpsilonAt3;
+  static constexpr auto kernel = ownzelmCholeskyDecomp_m_64f_P;
+};
+
+} // namespace zelm
+
+// clang-format off
+//     kernel  arguments strides type  body  pivots
+KERNEL(ownzelmCholeskyDecomp_ma_32f_S2, CHOLESKY_FACTOR_MA_S, ANY, float, choleskyFactors, AboveZero)
+// Alone with this limit; its sibling in the list layout has none.
+KERNEL(ownzelmCholeskyDecomp_ma_64f_S2, CHOLESKY_FACTOR_MA_S, ANY, double, choleskyFactors, AboveEpsilonFrom6On)
+KERNEL(ownzelmCholeskyDecomp_ma_32f_LS2, CHOLESKY_FACTOR_MA_L, ANY, float,  choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_ma_64f_LS2, CHOLESKY_FACTOR_MA_L, ANY, double, choleskyFactors, AboveZero)
+
+// Sides without straight-line code go to the kernel of the single object.
+//     kernel  arguments strides type  body  single
+KERNEL(ownzelmCholeskyDecomp_ma_32f_P, CHOLESKY_FACTOR_MA_P, ANY, float,  choleskyFactorsBySingle, Single32fP)
+KERNEL(ownzelmCholeskyDecomp_ma_64f_P, CHOLESKY_FACTOR_MA_P, ANY, double, choleskyFactorsBySingle, Single64fP)
+// clang-format on
