@@ -295,6 +295,10 @@ template <class T, class Stride = AnyStride> struct Matrices : Argument {
     return stride1 == row && stride0 == row * height;
   }
   ZELM_INLINE int64_t objectStride() const { return stride0; }
+  // Object k as a single operand.
+  Matrix<T, Stride> single(int64_t k) const {
+    return {reinterpret_cast<T*>(reinterpret_cast<Byte<T>*>(pointer) + k * stride0), stride1, stride2};
+  }
   ZELM_INLINE auto object(int64_t k, int64_t /* rowLength */) const {
     return StridedMatrixView<T, AnyStep, Step>{reinterpret_cast<Byte<T>*>(pointer) + k * stride0, stride1, stride2};
   }

@@ -1,0 +1,6 @@
+// Kernel on four-wide `32f` vectors: AffineTransform3DH on an array of points, unit strides.
+#include "zelmaffine.h"
+
+// clang-format off
+KERNEL(ownzelmAffineTransform3DH_mva_32f, AFFINE_MVA_S, UNIT, float, transformPoints, Points)
+// clang-format on

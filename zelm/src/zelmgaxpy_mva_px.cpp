@@ -1,0 +1,18 @@
+// Portable kernels: Gaxpy on arrays of vectors, any strides and pointer layout.
+#include "zelmmulv.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  sum
+KERNEL(ownzelmGaxpy_mva_32f_S2,   GAXPY_MVA_S,  ANY, float,  multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mva_64f_S2,   GAXPY_MVA_S,  ANY, double, multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mvav_32f_S2,  GAXPY_MVAV_S, ANY, float,  multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mvav_64f_S2,  GAXPY_MVAV_S, ANY, double, multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mva_32f_LS2,  GAXPY_MVA_L,  ANY, float,  multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mva_64f_LS2,  GAXPY_MVA_L,  ANY, double, multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mvav_32f_LS2, GAXPY_MVAV_L, ANY, float,  multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mvav_64f_LS2, GAXPY_MVAV_L, ANY, double, multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mva_32f_P,    GAXPY_MVA_P,  ANY, float,  multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mva_64f_P,    GAXPY_MVA_P,  ANY, double, multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mvav_32f_P,   GAXPY_MVAV_P, ANY, float,  multiplyAddVectors, TailFirst)
+KERNEL(ownzelmGaxpy_mvav_64f_P,   GAXPY_MVAV_P, ANY, double, multiplyAddVectors, TailFirst)
+// clang-format on

@@ -1,0 +1,10 @@
+// Kernels on four-wide `32f` vectors: Mul on arrays of matrices and vectors, unit strides.
+#include "zelmmulv.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  sum
+KERNEL(ownzelmMul_mava_32f,   MAVA_S, UNIT, float, multiplyVectors, EvenOdd)
+KERNEL(ownzelmMul_tava_32f,   TAVA_S, UNIT, float, multiplyVectors, Pairs32)
+KERNEL(ownzelmMul_mava_32f_L, MAVA_L, UNIT, float, multiplyVectors, EvenOdd)
+KERNEL(ownzelmMul_tava_32f_L, TAVA_L, UNIT, float, multiplyVectors, Pairs32)
+// clang-format on

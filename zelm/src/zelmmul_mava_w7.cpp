@@ -1,0 +1,11 @@
+// Kernels on two-wide `64f` vectors: Mul on arrays of matrices and vectors, unit strides.
+#include "zelmmulv.h"
+
+// clang-format off
+// A list kernel with ZeroChain has no straight-line sizes, unlike its sister; this is meant.
+//     kernel  arguments strides type  body  sum
+KERNEL(ownzelmMul_mava_64f,   MAVA_S, UNIT, double, multiplyVectors, Pairs64)
+KERNEL(ownzelmMul_tava_64f,   TAVA_S, UNIT, double, multiplyVectors, Chain)
+KERNEL(ownzelmMul_mava_64f_L, MAVA_L, UNIT, double, multiplyVectors, Pairs64)
+KERNEL(ownzelmMul_tava_64f_L, TAVA_L, UNIT, double, multiplyVectors, ZeroChain)
+// clang-format on
