@@ -1,0 +1,14 @@
+// Kernels on two-wide `64f` vectors: Mul on two arrays of matrices, unit strides.
+#include "zelmmul_mm.h"
+
+// clang-format off
+//     kernel                 arguments   strides  type    body      straight-line sizes
+KERNEL(ownzelmMul_mama_64f,   MUL_MAMA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_mata_64f,   MUL_MATA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_tama_64f,   MUL_TAMA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_tata_64f,   MUL_TATA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_mama_64f_L, MUL_MAMA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_mata_64f_L, MUL_MATA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_tama_64f_L, MUL_TAMA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_tata_64f_L, MUL_TATA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+// clang-format on

@@ -1,0 +1,661 @@
+// Mul, matrix by matrix: dst(i, j) is the sum of src1(i, k) * src2(k, j) over ascending k.
+//
+// Each result element is one running sum in the element type, whatever the path: vectors run over result columns or
+// over objects. The straight-line sizes start the sum from the first product, the general loop from +0.0, which shows
+// in the sign of a zero alone.
+#pragma once
+
+#include "zelmmulsignature.h"
+#include "zelmtile.h"
+
+#define ZELM_NOINLINE __attribute__((noinline))
+
+namespace zelm {
+
+// a(0) * b(0) + a(1) * b(1) + ..., from the left.
+template <int N, class A, class B> ZELM_INLINE auto sumOfProducts(const A& a, const B& b) {
+  auto sum = a(0) * b(0);
+  ZELM_UNROLL
+  for (int k = 1; k < N; ++k)
+    sum = sum + a(k) * b(k);
+  return sum;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Parts of vectors
+
+template <int W, class V> ZELM_INLINE auto lowPart(const V& v) {
+  if constexpr (W == 1)
+    return v[0];
+  else if constexpr (W == 2)
+    return __builtin_shufflevector(v, v, 0, 1);
+  else
+    return __builtin_shufflevector(v, v, 0, 1, 2, 3);
+}
+template <int W, class V> ZELM_INLINE auto highPart(const V& v) {
+  if constexpr (W == 1)
+    return v[1];
+  else if constexpr (W == 2)
+    return __builtin_shufflevector(v, v, 2, 3);
+  else
+    return __builtin_shufflevector(v, v, 4, 5, 6, 7);
+}
+
+#ifdef __AVX2__
+ZELM_INLINE Lanes<float, 4> loadMasked(const char* x, Lanes<float, 4>, int n) {
+  return _mm_maskload_ps(reinterpret_cast<const float*>(x),
+                         _mm_cmpgt_epi32(_mm_set1_epi32(n), _mm_setr_epi32(0, 1, 2, 3)));
+}
+ZELM_INLINE Lanes<float, 8> loadMasked(const char* x, Lanes<float, 8>, int n) {
+  return _mm256_maskload_ps(reinterpret_cast<const float*>(x),
+                            _mm256_cmpgt_epi32(_mm256_set1_epi32(n), _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7)));
+}
+ZELM_INLINE Lanes<double, 4> loadMasked(const char* x, Lanes<double, 4>, int n) {
+  return _mm256_maskload_pd(reinterpret_cast<const double*>(x),
+                            _mm256_cmpgt_epi64(_mm256_set1_epi64x(n), _mm256_setr_epi64x(0, 1, 2, 3)));
+}
+#else
+// Three elements; the only case of 16-byte vectors.
+ZELM_INLINE Lanes<float, 4> loadMasked(const char* x, Lanes<float, 4>, int) {
+  return _mm_movelh_ps(_mm_castpd_ps(_mm_set_sd(loadElement<double>(x))), _mm_set_ss(loadElement<float>(x + 8)));
+}
+#endif
+
+// The first N of W elements, the others of the vector being anything. `all` tells that the elements behind may be read.
+template <class T, int W, int N> ZELM_INLINE Lanes<T, W> loadPart(const char* x, bool all) {
+  if constexpr (N < W) {
+    if (!all)
+      return loadMasked(x, Lanes<T, W>{}, N);
+  }
+  return loadLanes<T, W>(x);
+}
+
+template <class T, int W, int N, class V> ZELM_INLINE void storePart(char* x, const V& v, bool all) {
+  if constexpr (W == 1) {
+    storeElement<T>(x, v);
+  } else if constexpr (N == W) {
+    storeLanes(x, v);
+  } else if (all) {
+    storeLanes(x, v);
+  } else if constexpr (N > W / 2) {
+    storePart<T, W / 2, W / 2>(x, lowPart<W / 2>(v), false);
+    storePart<T, W / 2, N - W / 2>(x + W / 2 * static_cast<int>(sizeof(T)), highPart<W / 2>(v), false);
+  } else {
+    storePart<T, W / 2, N>(x, lowPart<W / 2>(v), false);
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Straight-line sizes, unit strides: rows of the result in vectors
+
+// An operand of the standard or list layout whose rows are runs; a single one is every object.
+template <class T> struct Objects {
+  Byte<T>* origin;
+  T* const* list;  // or null
+  int64_t stride0; // with a list the shift
+  int64_t stride1;
+  ZELM_INLINE Byte<T>* operator[](int64_t k) const {
+    return list == nullptr ? origin + k * stride0 : reinterpret_cast<Byte<T>*>(list[k]) + stride0;
+  }
+  ZELM_INLINE Objects from(int64_t k) const {
+    return list == nullptr ? Objects{origin + k * stride0, nullptr, stride0, stride1}
+                           : Objects{origin, list + k, stride0, stride1};
+  }
+};
+template <class T, class S> ZELM_INLINE Objects<T> objectsOf(const Matrix<T, S>& x) {
+  return {reinterpret_cast<Byte<T>*>(x.pointer), nullptr, 0, x.stride1};
+}
+template <class T, class S> ZELM_INLINE Objects<T> objectsOf(const Matrices<T, S>& x) {
+  return {reinterpret_cast<Byte<T>*>(x.pointer), nullptr, x.stride0, x.stride1};
+}
+template <class T, class S> ZELM_INLINE Objects<T> objectsOf(const MatricesL<T, S>& x) {
+  return {nullptr, x.list, x.shift, x.stride1};
+}
+
+// The objects k, k + 1, ... of a group; the last object of the batch stands in for those that the last group lacks.
+template <class C, int G> struct Group { C* of[G]; };
+template <int G, class T> ZELM_INLINE Group<Byte<T>, G> groupOf(const Objects<T>& x, int64_t k, int64_t count) {
+  if constexpr (G == 1)
+    return {{x[k]}};
+  else
+    return {{x[k], x[k + 1 < count ? k + 1 : k]}};
+}
+
+constexpr int smaller(int a, int b) {
+  return a < b ? a : b;
+}
+constexpr int larger(int a, int b) {
+  return a > b ? a : b;
+}
+
+// How the rows of N elements are cut into vectors of W: the last one is moved back to end with the row, so that some
+// columns are computed twice; a row that is shorter than W leaves lanes idle. Where two rows fit the widest vector, two
+// objects lie in it side by side. A transposed src2 is turned in blocks of 16 bytes a row.
+template <class T, int N, bool turned> struct RowVectors {
+  static constexpr int widest = turned ? smaller(4, laneCount<T>) : laneCount<T>;
+  static constexpr int W = smaller(widest, N <= 4 ? 4 : 8);
+  static constexpr int G = N <= W ? laneCount<T> / W : 1;
+  static constexpr int perRow = (N + W - 1) / W;
+  static constexpr int used = smaller(N, W);
+  static constexpr int from(int v) { return larger(0, smaller(v * W, N - W)); }
+  using Vector = Lanes<T, W * G>;
+  struct Rows {
+    Vector row[N][perRow];
+  };
+};
+
+// f(0), or f(0) and f(1) side by side.
+template <int G, class F> ZELM_INLINE auto sideBySide(const F& f) {
+  if constexpr (G == 1)
+    return f(0);
+  else
+    return joinHalves(f(0), f(1));
+}
+
+// Element c of each of the groups of W, in all lanes of the group.
+template <int W> ZELM_INLINE Lanes<float, 8> spreadInGroups(const Lanes<float, 8>& v, int c) {
+  static_assert(W == 4);
+  switch (c) {
+  case 0:
+    return __builtin_shufflevector(v, v, 0, 0, 0, 0, 4, 4, 4, 4);
+  case 1:
+    return __builtin_shufflevector(v, v, 1, 1, 1, 1, 5, 5, 5, 5);
+  case 2:
+    return __builtin_shufflevector(v, v, 2, 2, 2, 2, 6, 6, 6, 6);
+  default:
+    return __builtin_shufflevector(v, v, 3, 3, 3, 3, 7, 7, 7, 7);
+  }
+}
+
+// Is everything of a vector of W elements at (i, j) inside an object of N by N elements without gaps?
+template <int W, int N> constexpr bool inside(int i, int j) {
+  return i * N + j + W <= N * N;
+}
+
+// The stored rows of G objects as vectors.
+template <class T, int N, bool packed, class Cut, int G>
+ZELM_INLINE auto loadRows(const Group<const char, G>& x, int64_t stride1) {
+  constexpr int W = Cut::W;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  typename Cut::Rows rows;
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    ZELM_UNROLL
+  for (int v = 0; v < Cut::perRow; ++v)
+    rows.row[i][v] = sideBySide<G>([&](int g) __attribute__((always_inline)) {
+      return loadPart<T, W, Cut::used>(x.of[g] + i * stride1 + Cut::from(v) * E,
+                                       packed && inside<W, N>(i, Cut::from(v)));
+    });
+  return rows;
+}
+
+// The stored columns of G objects as vectors.
+template <class T, int N, bool packed, class Cut, int G>
+ZELM_INLINE auto loadColumns(const Group<const char, G>& x, int64_t stride1) {
+  constexpr int W = Cut::W;
+  constexpr int Q = chunkElements<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  typename Cut::Rows rows;
+  ZELM_UNROLL
+  for (int v = 0; v < Cut::perRow; ++v)
+    ZELM_UNROLL
+  for (int chunk = 0; chunk < N; chunk += Q) {
+    const int k = larger(0, smaller(chunk, N - Q));
+    // Q elements of stored row j, which is a column of the factor.
+    const auto part = [&](int j, int g) __attribute__((always_inline)) {
+      const int row = smaller(Cut::from(v) + j, N - 1);
+      return loadPart<T, Q, smaller(N, Q)>(x.of[g] + row * stride1 + k * E, packed && inside<Q, N>(row, k));
+    };
+    typename Cut::Vector turn[Q];
+    ZELM_UNROLL
+    for (int q = 0; q < Q; ++q) {
+      if constexpr (G == 1 && W == 2 * Q)
+        turn[q] = joinHalves(part(q, 0), part(q + Q, 0));
+      else
+        turn[q] = sideBySide<G>([&](int g) __attribute__((always_inline)) { return part(q, g); });
+    }
+    transposeChunk(turn);
+    ZELM_UNROLL
+    for (int q = 0; q < Q; ++q)
+      if (k + q < N)
+        rows.row[k + q][v] = turn[q];
+  }
+  return rows;
+}
+
+// src1 of a batch: what stands in all lanes of an object when element (i, k) is wanted.
+template <class T, int N, class Cut, bool transposed> struct SpreadSingle {
+  typename Cut::Vector element[N * N];
+  ZELM_INLINE SpreadSingle(const char* x, int64_t stride1) {
+    ZELM_UNROLL
+    for (int r = 0; r < N; ++r)
+      ZELM_UNROLL
+    for (int c = 0; c < N; ++c)
+      element[r * N + c] =
+          splat<typename Cut::Vector>(loadElement<T>(x + r * stride1 + c * static_cast<int64_t>(sizeof(T))));
+  }
+  ZELM_INLINE auto operator()(int i, int k) const { return transposed ? element[k * N + i] : element[i * N + k]; }
+};
+template <class T, int N, class Cut, bool transposed> struct SpreadOne {
+  const char* x;
+  int64_t stride1;
+  ZELM_INLINE auto operator()(int i, int k) const {
+    const int r = transposed ? k : i;
+    const int c = transposed ? i : k;
+    return splat<typename Cut::Vector>(loadElement<T>(x + r * stride1 + c * static_cast<int64_t>(sizeof(T))));
+  }
+};
+template <class T, int N, class Cut, bool transposed> struct SpreadGroup {
+  typename Cut::Rows rows;
+  ZELM_INLINE auto operator()(int i, int k) const {
+    return spreadInGroups<Cut::W>(rows.row[transposed ? k : i][0], transposed ? i : k);
+  }
+};
+
+// G objects. Rows are stored in ascending order: what a vector writes behind its row is the next row's.
+template <class T, int N, bool packed, class Cut, class Spread, int G>
+ZELM_INLINE void multiplyGroup(const Spread& a, const typename Cut::Rows& b, const Group<char, G>& d, int64_t stride1) {
+  constexpr int W = Cut::W;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i) {
+    typename Cut::Vector sum[Cut::perRow];
+    ZELM_UNROLL
+    for (int v = 0; v < Cut::perRow; ++v)
+      sum[v] = sumOfProducts<N>(
+          [&](int k) __attribute__((always_inline)) { return a(i, k); }, [&](int k) __attribute__((
+                                                                             always_inline)) { return b.row[k][v]; });
+    ZELM_UNROLL
+    for (int v = 0; v < Cut::perRow; ++v) {
+      char* const at0 = d.of[0] + i * stride1 + Cut::from(v) * E;
+      const bool all = packed && inside<W, N>(i, Cut::from(v));
+      if constexpr (G == 1) {
+        storePart<T, W, Cut::used>(at0, sum[v], all);
+      } else {
+        storePart<T, W, Cut::used>(at0, lowPart<W>(sum[v]), all);
+        storePart<T, W, Cut::used>(d.of[1] + i * stride1 + Cut::from(v) * E, highPart<W>(sum[v]), all);
+      }
+    }
+  }
+}
+
+template <bool first, bool second> struct Which {
+  static constexpr bool src1 = first;
+  static constexpr bool src2 = second;
+};
+
+// Packed: the rows of every object follow each other without gaps, in all operands.
+template <class T, int N, class Transposed12, class Single, bool packed>
+ZELM_INLINE void multiplyObjects(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
+                                 int64_t count) {
+  using Cut = RowVectors<T, N, Transposed12::src2>;
+  constexpr int G = Cut::G;
+  constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
+  const auto firstOf = [&](int64_t k) __attribute__((always_inline)) {
+    const int64_t stride1 = packed ? row : src1.stride1;
+    if constexpr (Single::src1)
+      return SpreadSingle<T, N, Cut, Transposed12::src1>(src1[0], stride1);
+    else if constexpr (G == 1)
+      return SpreadOne<T, N, Cut, Transposed12::src1>{src1[k], stride1};
+    else
+      return SpreadGroup<T, N, Cut, Transposed12::src1>{
+          loadRows<T, N, packed, Cut, G>(groupOf<G>(src1, k, count), stride1)};
+  };
+  const auto secondOf = [&](int64_t k) __attribute__((always_inline)) {
+    const int64_t stride1 = packed ? row : src2.stride1;
+    const auto group = groupOf<G>(src2, k, Single::src2 ? 1 : count);
+    if constexpr (Transposed12::src2)
+      return loadColumns<T, N, packed, Cut, G>(group, stride1);
+    else
+      return loadRows<T, N, packed, Cut, G>(group, stride1);
+  };
+  const auto multiplyAt = [&](int64_t k, const auto& a, const auto& b) __attribute__((always_inline)) {
+    multiplyGroup<T, N, packed, Cut>(a, b, groupOf<G>(dst, k, count), packed ? row : dst.stride1);
+  };
+  // A single operand stays in registers.
+  if constexpr (Single::src1) {
+    const auto a = firstOf(0);
+    for (int64_t k = 0; k < count; k += G)
+      multiplyAt(k, a, secondOf(k));
+  } else if constexpr (Single::src2) {
+    const auto b = secondOf(0);
+    for (int64_t k = 0; k < count; k += G)
+      multiplyAt(k, firstOf(k), b);
+  } else {
+    for (int64_t k = 0; k < count; k += G)
+      multiplyAt(k, firstOf(k), secondOf(k));
+  }
+}
+
+// Copies past the caches; both addresses are multiples of the element size.
+inline void copyStreaming(char* dst, const char* src, int64_t bytes) {
+  const int64_t lead = -reinterpret_cast<std::intptr_t>(dst) & (vectorBytes - 1);
+  std::memcpy(dst, src, static_cast<std::size_t>(lead));
+  int64_t at = lead;
+  for (; at + vectorBytes <= bytes; at += vectorBytes)
+    streamLanes(dst + at, loadLanes<float>(src + at));
+  std::memcpy(dst + at, src + at, static_cast<std::size_t>(bytes - at));
+}
+
+template <class T, int N, class Transposed12, class Single>
+ZELM_NOINLINE void multiplyUnit(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
+                                int64_t count) {
+  constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
+  if (src1.stride1 != row || src2.stride1 != row || dst.stride1 != row) {
+    multiplyObjects<T, N, Transposed12, Single, false>(src1, src2, dst, count);
+  } else if (dst.list == nullptr && dst.stride0 == N * row && N * row * count >= streamingBytes) {
+    // A result far larger than the caches: some objects at a time, then past the caches.
+    constexpr int64_t block = 32;
+    alignas(vectorBytes) char results[static_cast<std::size_t>(block * N * row)];
+    for (int64_t k = 0; k < count; k += block) {
+      const int64_t n = count - k < block ? count - k : block;
+      multiplyObjects<T, N, Transposed12, Single, true>(
+          src1.from(Single::src1 ? 0 : k), src2.from(Single::src2 ? 0 : k), {results, nullptr, N * row, row}, n);
+      copyStreaming(dst[k], results, n * N * row);
+    }
+    _mm_sfence();
+  } else {
+    multiplyObjects<T, N, Transposed12, Single, true>(src1, src2, dst, count);
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Straight-line sizes, any strides and pointer layout: one object
+
+// Called for each object; operands differ in their strides or lists alone, so that all forms share it.
+template <int N, class A, class B, class D> ZELM_NOINLINE void multiplyElements(const A& a, const B& b, const D& d) {
+  const auto second = loadTile<N, N>(b);
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i) {
+    typename D::Element first[N];
+    ZELM_UNROLL
+    for (int k = 0; k < N; ++k)
+      first[k] = a.load(i, k);
+    ZELM_UNROLL
+    for (int j = 0; j < N; ++j)
+      d.store(i, j,
+              sumOfProducts<N>(
+                  [&](int k) __attribute__((always_inline)) { return first[k]; },
+                  [&](int k) __attribute__((always_inline)) { return second(k, j); }));
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Straight-line sizes, pointer layout with stride0 of one element: objects side by side as they lie
+
+// The addresses of an operand's elements as the product sees them.
+template <class C, int N> struct Positions {
+  C* at[N * N];
+  template <class View> ZELM_INLINE explicit Positions(const View& x) {
+    for (int i = 0; i < N; ++i)
+      for (int j = 0; j < N; ++j)
+        at[i * N + j] = x.address(i, j);
+  }
+};
+
+// Vectors of neighbours, or one element in all lanes.
+template <class T, bool single> ZELM_INLINE Lanes<T> loadNeighbours(const char* x, int64_t offset) {
+  if constexpr (single)
+    return splat<Lanes<T>>(loadElement<T>(x));
+  else
+    return loadLanes<T>(x + offset);
+}
+
+// At least as many objects as a vector has lanes; the last vector is moved back to end with the batch.
+template <class T, int N, class Single>
+ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, const PointerMatrixView<const T>& src2,
+                                      const PointerMatrixView<T>& dst, int64_t count) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  constexpr int64_t W = laneCount<T>;
+  const Positions<const char, N> first(src1);
+  const Positions<const char, N> second(src2);
+  const Positions<char, N> result(dst);
+  for (int64_t k = 0; k < count; k += W) {
+    const int64_t offset = (k + W <= count ? k : count - W) * E;
+    Tile<Lanes<T>, N, N> b;
+    ZELM_UNROLL
+    for (int e = 0; e < N * N; ++e)
+      b.element[e] = loadNeighbours<T, Single::src2>(second.at[e], offset);
+    ZELM_UNROLL
+    for (int i = 0; i < N; ++i) {
+      Tile<Lanes<T>, 1, N> a;
+      ZELM_UNROLL
+      for (int l = 0; l < N; ++l)
+        a.element[l] = loadNeighbours<T, Single::src1>(first.at[i * N + l], offset);
+      ZELM_UNROLL
+      for (int j = 0; j < N; ++j)
+        storeLanes(result.at[i * N + j] + offset,
+                   sumOfProducts<N>(
+                       [&](int l) __attribute__((always_inline)) { return a.element[l]; },
+                       [&](int l) __attribute__((always_inline)) { return b(l, j); }));
+    }
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// General path: any sizes; every sum starts from +0.0
+
+// W neighbouring columns of rows k, k + 1, ... of a factor whose stored rows are its columns.
+template <int W, class B, class V> ZELM_INLINE void turnColumns(const B& b, int64_t k, int64_t j, V* rows) {
+  using T = typename B::Element;
+  constexpr int Q = chunkElements<T>;
+  V turn[Q];
+  ZELM_UNROLL
+  for (int q = 0; q < Q; ++q) {
+    if constexpr (W == 2 * Q)
+      turn[q] = joinHalves(loadLanes<T, Q>(b.address(k, j + q)), loadLanes<T, Q>(b.address(k, j + q + Q)));
+    else
+      turn[q] = loadLanes<T, Q>(b.address(k, j + q));
+  }
+  transposeChunk(turn);
+  ZELM_UNROLL
+  for (int q = 0; q < Q; ++q)
+    rows[q] = turn[q];
+}
+
+// R rows of the result from row i on, V vectors of W columns from columns j[] on.
+template <int W, int R, int V, class A, class B, class D>
+ZELM_INLINE void multiplyPanel(const A& a, const B& b, const D& d, int64_t i, const int64_t (&j)[V], int64_t n) {
+  using T = typename D::Element;
+  using L = std::conditional_t<W == 1, T, Lanes<T, W>>;
+  constexpr int Q = chunkElements<T>;
+  L sum[R * V] = {};
+  const auto add = [&](int64_t k, const L* row) __attribute__((always_inline)) {
+    ZELM_UNROLL
+    for (int r = 0; r < R; ++r) {
+      const L factor = splat<L>(a.load(i + r, k));
+      ZELM_UNROLL
+      for (int v = 0; v < V; ++v)
+        sum[r * V + v] = sum[r * V + v] + factor * row[v];
+    }
+  };
+  int64_t k = 0;
+  if constexpr (W > 1 && !B::unitRows) {
+    for (; k + Q <= n; k += Q) {
+      L turned[V][Q];
+      ZELM_UNROLL
+      for (int v = 0; v < V; ++v)
+        turnColumns<W>(b, k, j[v], turned[v]);
+      ZELM_UNROLL
+      for (int q = 0; q < Q; ++q) {
+        L row[V];
+        ZELM_UNROLL
+        for (int v = 0; v < V; ++v)
+          row[v] = turned[v][q];
+        add(k + q, row);
+      }
+    }
+  }
+  for (; k < n; ++k) {
+    L row[V] = {};
+    ZELM_UNROLL
+    for (int v = 0; v < V; ++v) {
+      if constexpr (W == 1) {
+        row[v] = b.load(k, j[v]);
+      } else if constexpr (B::unitRows) {
+        row[v] = loadLanes<T, W>(b.address(k, j[v]));
+      } else {
+        ZELM_UNROLL
+        for (int w = 0; w < W; ++w)
+          row[v][w] = b.load(k, j[v] + w);
+      }
+    }
+    add(k, row);
+  }
+  ZELM_UNROLL
+  for (int r = 0; r < R; ++r)
+    ZELM_UNROLL
+  for (int v = 0; v < V; ++v) {
+    if constexpr (W == 1)
+      d.store(i + r, j[v], sum[r * V + v]);
+    else
+      storeLanes(d.address(i + r, j[v]), sum[r * V + v]);
+  }
+}
+
+// All rows of a panel of columns, four at a time.
+template <int W, int V, class A, class B, class D>
+ZELM_INLINE void multiplyPanels(const A& a, const B& b, const D& d, const int64_t (&j)[V], int64_t rows, int64_t n) {
+  int64_t i = 0;
+  for (; i + 4 <= rows; i += 4)
+    multiplyPanel<W, 4, V>(a, b, d, i, j, n);
+  switch (rows - i) {
+  case 3:
+    multiplyPanel<W, 3, V>(a, b, d, i, j, n);
+    break;
+  case 2:
+    multiplyPanel<W, 2, V>(a, b, d, i, j, n);
+    break;
+  case 1:
+    multiplyPanel<W, 1, V>(a, b, d, i, j, n);
+    break;
+  default:
+    break;
+  }
+}
+
+// Vectors of the widest W that the columns fill, two at a time; the last one is moved back to end with the row.
+template <int W, class A, class B, class D>
+ZELM_INLINE void multiplyWide(const A& a, const B& b, const D& d, int64_t rows, int64_t columns, int64_t n) {
+  if constexpr (W > 1) {
+    if (columns < W)
+      return multiplyWide<(W > chunkElements<typename D::Element> ? W / 2 : 1)>(a, b, d, rows, columns, n);
+  }
+  const auto from = [columns](int64_t j) { return j + W <= columns ? j : columns - W; };
+  int64_t j = 0;
+  for (; j + W < columns; j += 2 * W)
+    multiplyPanels<W, 2>(a, b, d, {j, from(j + W)}, rows, n);
+  if (j < columns)
+    multiplyPanels<W, 1>(a, b, d, {j}, rows, n);
+}
+
+template <class A, class B, class D>
+ZELM_NOINLINE void multiplyGeneral(const A& a, const B& b, const D& d, int64_t rows, int64_t columns, int64_t n) {
+  constexpr bool vectors = D::unitRows && (B::unitRows || B::unitColumns);
+  multiplyWide<vectors ? laneCount<typename D::Element> : 1>(a, b, d, rows, columns, n);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Kernels
+
+// Every step an argument: what forms share that differ in addressing alone.
+template <class T, class R, class C> ZELM_INLINE auto anySteps(const StridedMatrixView<T, R, C>& x) {
+  return StridedMatrixView<T, AnyStep, AnyStep>{x.origin, int64_t{x.rowStep}, int64_t{x.columnStep}};
+}
+template <class T> ZELM_INLINE auto anySteps(const PointerMatrixView<T>& x) {
+  return x;
+}
+
+template <class A, class B, class D>
+ZELM_INLINE ZelStatus multiplyAny(const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
+                                  int32_t src2Width, int32_t src2Height, const D& dst, int32_t count) {
+  const int32_t rows = rowsOf<A>(src1Width, src1Height);
+  const int32_t columns = columnsOf<B>(src2Width, src2Height);
+  const int32_t n = columnsOf<A>(src1Width, src1Height);
+  for (int32_t k = 0; k < count; ++k)
+    multiplyGeneral(anySteps(src1.object(k, src1Width)), src2.object(k, src2Width), dst.object(k, columns), rows,
+                    columns, n);
+  return zelStatusOk;
+}
+
+template <class> constexpr bool isNeighbour = false;
+template <class T> constexpr bool isNeighbour<PointerMatrixView<T>> = true;
+
+template <class X> ZELM_INLINE const auto& storedOf(const X& x) {
+  if constexpr (isTransposed<X>)
+    return x.stored();
+  else
+    return x;
+}
+
+// All objects have the side N.
+template <int N, class A, class B, class D>
+ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, int32_t count) {
+  using T = typename D::Element;
+  using View = decltype(dst.object(0, N));
+  using Single = Which<D::isArray && !A::isArray, D::isArray && !B::isArray>;
+  if constexpr (View::unitRows) {
+    multiplyUnit<T, N, Which<isTransposed<A>, isTransposed<B>>, Single>(
+        objectsOf(storedOf(src1)), objectsOf(storedOf(src2)), objectsOf(dst), count);
+  } else {
+    if constexpr (D::isArray && isNeighbour<View>) {
+      constexpr auto E = static_cast<int64_t>(sizeof(T));
+      const auto neighbours = [](const auto& x) { return !x.isArray || x.objectStride() == E; };
+      if (count >= laneCount<T> && neighbours(src1) && neighbours(src2) && neighbours(dst)) {
+        multiplyNeighbours<T, N, Single>(src1.object(0, N), src2.object(0, N), dst.object(0, N), count);
+        return zelStatusOk;
+      }
+    }
+    for (int32_t k = 0; k < count; ++k)
+      multiplyElements<N>(anySteps(src1.object(k, N)), anySteps(src2.object(k, N)), dst.object(k, N));
+  }
+  return zelStatusOk;
+}
+
+// A straight-line size runs if the guard gives it, otherwise the general path.
+template <int... N, class A, class B, class D>
+ZELM_INLINE ZelStatus multiplySide(Sizes<N...> sizes, int32_t side, const A& src1, int32_t src1Width,
+                                   int32_t src1Height, const B& src2, int32_t src2Width, int32_t src2Height,
+                                   const D& dst, int32_t count) {
+  return forSize(
+      sizes, side, [&](auto n) { return multiplyFixed<n>(src1, src2, dst, count); },
+      [&] { return multiplyAny(src1, src1Width, src1Height, src2, src2Width, src2Height, dst, count); });
+}
+
+// The size that all four are, or 0.
+constexpr int32_t commonSide(int32_t width1, int32_t height1, int32_t width2, int32_t height2) {
+  return width1 == height1 && width1 == width2 && width1 == height2 ? width1 : 0;
+}
+
+template <int... N, class A, class B, class D>
+ZELM_INLINE ZelStatus multiply(Sizes<N...> sizes, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
+                               int32_t src2Width, int32_t src2Height, const D& dst, int32_t count = 1) {
+  return multiplySide(sizes, commonSide(src1Width, src1Height, src2Width, src2Height), src1, src1Width, src1Height,
+                      src2, src2Width, src2Height, dst, count);
+}
+
+// The sizes 3 to 6 of two kernels that test 3 by the OR of the four sizes: sizes of 1 to 3 whose OR is 3 run the 3 by 3
+// code, on list entries 0 to 8 of each operand as three rows of three. (For 4 the test would be the same as the exact
+// one.)
+struct SizesByOr {};
+template <class A, class B, class D>
+ZELM_INLINE ZelStatus multiply(SizesByOr, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
+                               int32_t src2Width, int32_t src2Height, const D& dst, int32_t count = 1) {
+  const int32_t side = (src1Width | src1Height | src2Width | src2Height) == 3
+                           ? 3
+                           : commonSide(src1Width, src1Height, src2Width, src2Height);
+  return multiplySide(Sizes<3, 4, 5, 6>{}, side, src1, src1Width, src1Height, src2, src2Width, src2Height, dst, count);
+}
+
+// The sizes 3, 5 and 6, and a 4 by 4 case that a 4 by 4 src1 with a src2 of three stored rows enters: it reads a fourth
+// row of src2 and writes a fourth column of dst. All sizes 4 are left to the general path.
+struct SizesWith4By3 {};
+template <class A, class B, class D>
+ZELM_INLINE ZelStatus multiply(SizesWith4By3, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
+                               int32_t src2Width, int32_t src2Height, const D& dst, int32_t count) {
+  if (src1Width == 4 && src1Height == 4 && src2Height == 3)
+    return multiplyFixed<4>(src1, src2, dst, count);
+  return multiply(Sizes<3, 5, 6>{}, src1, src1Width, src1Height, src2, src2Width, src2Height, dst, count);
+}
+
+} // namespace zelm
