@@ -1,0 +1,328 @@
+// QR decomposition by Householder reflections and the solution of systems with it, by least squares where there are
+// more rows than columns.
+//
+// A factored matrix holds R on and above the diagonal. Below the diagonal of column k stands the tail of the reflection
+// vector v(k), whose element at row k is an implied 1: H(k) = I + beta(k) * v(k) * transpose(v(k)),
+// beta(k) = -2 / (transpose(v(k)) * v(k)). No coefficient is stored.
+#pragma once
+
+#include "zelmblock.h"
+
+// clang-format off
+#define QR_FACTOR(V, T, S, D)    V##_##S(src, const T), V##_BUFFER(buffer, T, height), V##_##D(dst, T), V##_SIZE(width), V##_SIZE(height)
+#define QR_FACTOR_M_S(V, T)      QR_FACTOR(V, T, M_S, M_S)
+#define QR_FACTOR_M_P(V, T)      QR_FACTOR(V, T, M_P, M_P)
+#define QR_FACTOR_MA_S(V, T)     QR_FACTOR(V, T, MA_S, MA_S), V##_COUNT
+#define QR_FACTOR_MA_L(V, T)     QR_FACTOR(V, T, MA_L, MA_L), V##_COUNT
+#define QR_FACTOR_MA_P(V, T)     QR_FACTOR(V, T, MA_P, MA_P), V##_COUNT
+
+#define QR_SOLVE(V, T, M, B, X)  V##_##M(src1, const T), V##_BUFFER(buffer, T, height), V##_##B(src2, const T), V##_##X(dst, T), V##_SIZE(width), V##_SIZE(height)
+#define QR_SOLVE_MV_S(V, T)      QR_SOLVE(V, T, M_S, V_S, V_S)
+#define QR_SOLVE_MV_P(V, T)      QR_SOLVE(V, T, M_P, V_P, V_P)
+#define QR_SOLVE_MVA_S(V, T)     QR_SOLVE(V, T, M_S, VA_S, VA_S), V##_COUNT
+#define QR_SOLVE_MVA_L(V, T)     QR_SOLVE(V, T, M_S, VA_L, VA_L), V##_COUNT
+#define QR_SOLVE_MVA_P(V, T)     QR_SOLVE(V, T, M_P, VA_P, VA_P), V##_COUNT
+#define QR_SOLVE_MAVA_S(V, T)    QR_SOLVE(V, T, MA_S, VA_S, VA_S), V##_COUNT
+#define QR_SOLVE_MAVA_L(V, T)    QR_SOLVE(V, T, MA_L, VA_L, VA_L), V##_COUNT
+#define QR_SOLVE_MAVA_P(V, T)    QR_SOLVE(V, T, MA_P, VA_P, VA_P), V##_COUNT
+// clang-format on
+
+namespace zelm {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Arithmetic, on an object or on a block of them
+
+// A dense matrix, row after row.
+template <class L, class Width> struct Rectangle {
+  L* element;
+  Width width;
+  ZELM_INLINE auto& at(int i, int j) const { return element[i * width + j]; }
+  ZELM_INLINE auto load(int i, int j) const { return at(i, j); }
+  ZELM_INLINE void store(int i, int j, L value) const { at(i, j) = value; }
+};
+
+// Lanes or, as the caller's scratch, elements at any address.
+template <class L> struct Column {
+  L* element;
+  ZELM_INLINE L load(int i) const {
+    L value;
+    std::memcpy(&value, element + i, sizeof value);
+    return value;
+  }
+  ZELM_INLINE void store(int i, L value) const { std::memcpy(element + i, &value, sizeof value); }
+};
+
+// The last column of a square matrix has no reflection, and so no test.
+template <class Width, class Height> ZELM_INLINE constexpr auto qrSteps(Width width, Height height) {
+  if constexpr (isFixed<Width> && isFixed<Height>)
+    return Fixed<(width < height ? width : width - 1)>{};
+  else
+    return width < height ? static_cast<int>(width) : width - 1;
+}
+
+// The limit of the squared norm; exact in both types, so that the comparison in double is one in the element type.
+template <class T> constexpr T qrLimit = sizeof(T) == 4 ? T(0x1p-23) : T(0x1p-52);
+
+// Reduces a to its factored form; v is room for a reflection vector. False, with the columns so far finished and the
+// rest partly reduced, if the limit exceeds a squared norm in any lane. A NaN passes.
+template <class L, class Matrix, class Vector, class Width, class Height>
+ZELM_INLINE bool qrReduce(const Matrix& a, const Vector& v, Width width, Height height) {
+  using T = ElementOf<L>;
+  return whileAscending(Fixed<0>{}, qrSteps(width, height), [&](auto k) ZELM_BODY {
+    L norm2{};
+    ascending(k, height, [&](auto i) ZELM_BODY {
+      const L x = a.load(i, k);
+      norm2 = norm2 + x * x;
+    });
+    if (anyLane(splat<L>(qrLimit<T>) > norm2))
+      return false;
+    // The correctly rounded root, which is also the root in double rounded to the element type.
+    const L norm = squareRoot(norm2);
+    const L head = a.load(k, k);
+    const L p = head + (head > L{} ? norm : -norm);
+    const L r = 1 / p;
+    L w = splat<L>(1);
+    ascending(next(k), height, [&](auto i) ZELM_BODY {
+      const L x = a.load(i, k) * r;
+      v.store(i, x);
+      w = w + x * x;
+    });
+    const L beta = -2 / w;
+    L s = head;
+    ascending(next(k), height, [&](auto i) ZELM_BODY { s = s + a.load(i, k) * v.load(i); });
+    a.store(k, k, s * beta + head);
+    // Below the diagonal the column becomes the tail.
+    ascending(next(k), height, [&](auto i) ZELM_BODY { a.store(i, k, v.load(i)); });
+    ascending(next(k), width, [&](auto j) ZELM_BODY {
+      const L top = a.load(k, j);
+      L sum = top;
+      ascending(next(k), height, [&](auto i) ZELM_BODY { sum = sum + a.load(i, j) * v.load(i); });
+      sum = sum * beta;
+      a.store(k, j, sum + top);
+      ascending(next(k), height, [&](auto i) ZELM_BODY { a.store(i, j, v.load(i) * sum + a.load(i, j)); });
+    });
+    return true;
+  });
+}
+
+// The denominator of beta(k).
+template <class L, class Matrix, class Index, class Height>
+ZELM_INLINE L qrDenominator(const Matrix& a, Index k, Height height) {
+  L w = splat<L>(1);
+  ascending(next(k), height, [&](auto i) ZELM_BODY {
+    const L x = a.load(i, k);
+    w = w + x * x;
+  });
+  return w;
+}
+
+// Turns the right-hand side c by the reflections and solves with R; x may be c. denominator(k) is that of beta(k).
+template <class L, class Matrix, class Denominator, class Vector, class Result, class Width, class Height>
+ZELM_INLINE void qrSolve(const Matrix& a, const Denominator& denominator, const Vector& c, const Result& x, Width width,
+                         Height height) {
+  ascending(Fixed<0>{}, qrSteps(width, height), [&](auto k) ZELM_BODY {
+    const L top = c.load(k);
+    L s = top;
+    ascending(next(k), height, [&](auto i) ZELM_BODY { s = s + c.load(i) * a.load(i, k); });
+    s = s * (-2 / denominator(k));
+    c.store(k, top + s);
+    ascending(next(k), height, [&](auto i) ZELM_BODY { c.store(i, a.load(i, k) * s + c.load(i)); });
+  });
+  const auto last = previous(width);
+  x.store(last, c.load(last) / a.load(last, last));
+  descending(Fixed<0>{}, last, [&](auto i) ZELM_BODY {
+    L t{};
+    ascending(next(i), width, [&](auto j) ZELM_BODY { t = t + a.load(i, j) * x.load(j); });
+    x.store(i, (c.load(i) - t) / a.load(i, i));
+  });
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Blocks: in lanes up to this number of elements an object
+
+constexpr int qrLaneElements = 128;
+ZELM_INLINE bool qrFitsLanes(int32_t width, int32_t height) {
+  return static_cast<int64_t>(width) * height <= qrLaneElements;
+}
+
+template <class L> struct QrScratch {
+  L element[qrLaneElements];
+  L vector[qrLaneElements];
+  L denominator[qrLaneElements];
+};
+
+// Calls body(width, height), with sizes known to the compiler where there is straight-line code.
+template <class F> ZELM_INLINE auto forQrShape(int width, int height, const F& body) {
+  if (width == 3 && height == 6)
+    return body(Fixed<3>{}, Fixed<6>{});
+  if (width != height)
+    return body(width, height);
+  switch (width) {
+  case 3:
+    return body(Fixed<3>{}, Fixed<3>{});
+  case 4:
+    return body(Fixed<4>{}, Fixed<4>{});
+  case 5:
+    return body(Fixed<5>{}, Fixed<5>{});
+  case 6:
+    return body(Fixed<6>{}, Fixed<6>{});
+  default:
+    return body(width, height);
+  }
+}
+
+template <class L> __attribute__((noinline)) bool qrReduceLanes(QrScratch<L>& scratch, int width, int height) {
+  return forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
+    return qrReduce<L>(Rectangle<L, decltype(w)>{scratch.element, w}, Column<L>{scratch.vector}, w, h);
+  });
+}
+
+template <class L> __attribute__((noinline)) void qrDenominators(QrScratch<L>& scratch, int width, int height) {
+  const Rectangle<const L, int> a{scratch.element, width};
+  for (int k = 0; k < qrSteps(width, height); ++k)
+    scratch.denominator[k] = qrDenominator<L>(a, k, height);
+}
+
+// The right-hand sides stand in scratch.vector, and so do the solutions. Each: every lane has its own matrix;
+// otherwise the denominators stand in scratch.
+template <bool Each, class L>
+__attribute__((noinline)) void qrSolveLanes(QrScratch<L>& scratch, int width, int height) {
+  forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
+    const Rectangle<const L, decltype(w)> a{scratch.element, w};
+    const Column<L> c{scratch.vector};
+    const auto denominator = [&](auto k) ZELM_BODY {
+      if constexpr (Each)
+        return qrDenominator<L>(a, k, h);
+      else
+        return scratch.denominator[k];
+    };
+    qrSolve<L>(a, denominator, c, c, w, h);
+  });
+}
+
+template <class Objects, class L>
+__attribute__((noinline)) void loadRectangle(const Objects& objects, L* lanes, int width, int height) {
+  if (objects.gapless(width))
+    return objects.load(0, 0, width * height, lanes);
+  for (int i = 0; i < height; ++i)
+    objects.load(i, 0, width, lanes + i * width);
+}
+template <class Objects, class L>
+__attribute__((noinline)) void storeRectangle(const Objects& objects, const L* lanes, int width, int height) {
+  if (objects.gapless(width))
+    return objects.store(0, 0, width * height, lanes);
+  for (int i = 0; i < height; ++i)
+    objects.store(i, 0, width, lanes + i * width);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Decomposition
+
+struct AnyShape {};
+
+template <class T, class Source, class Result>
+ZELM_INLINE ZelStatus qrFactor(const Source& src, T* buffer, const Result& dst, int32_t width, int32_t height) {
+  for (int32_t i = 0; i < height; ++i)
+    for (int32_t j = 0; j < width; ++j)
+      dst.store(i, j, src.load(i, j));
+  return qrReduce<T>(dst, Column<T>{buffer}, static_cast<int>(width), static_cast<int>(height)) ? zelStatusOk
+                                                                                                : zelStatusDivideByZero;
+}
+
+// Single objects.
+template <class T, class Source, class Result>
+ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
+                                int32_t height) {
+  return qrFactor<T>(src.object(0, width), buffer.pointer, dst.object(0, width), width, height);
+}
+
+// Batches.
+template <class T, class Source, class Result>
+ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
+                                int32_t height, int32_t count) {
+  const auto single = [&](int64_t k) ZELM_BODY {
+    return qrFactor<T>(src.object(k, width), buffer.pointer, dst.object(k, width), width, height);
+  };
+  const bool inLanes = count > 1 && qrFitsLanes(width, height);
+  QrScratch<Lanes<T>> scratch;
+  return forBlocks<T, isPointerLayout<Source>>(
+      count, areNeighbours(src) && areNeighbours(dst),
+      [&](auto block) ZELM_BODY {
+        if (!inLanes)
+          return false;
+        loadRectangle(matrixBlock(src, block, width), scratch.element, width, height);
+        if (!qrReduceLanes(scratch, width, height))
+          return false;
+        storeRectangle(matrixBlock(dst, block, width), scratch.element, width, height);
+        return true;
+      },
+      single);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Back substitution
+
+// Calls body(side) for the square sizes that do without the caller's scratch.
+ZELM_INLINE bool qrIsSmallSquare(int32_t width, int32_t height) {
+  return width == height && width >= 3 && width <= 6;
+}
+
+template <class T, class Matrix, class Right, class Result>
+ZELM_INLINE void qrSolution(const Matrix& a, T* buffer, const Right& right, const Result& dst, int32_t width,
+                            int32_t height) {
+  T local[6];
+  T* const work = qrIsSmallSquare(width, height) ? local : buffer;
+  const Column<T> c{work};
+  for (int32_t i = 0; i < height; ++i)
+    c.store(i, right.load(i));
+  qrSolve<T>(
+      a, [&](int k) ZELM_BODY { return qrDenominator<T>(a, k, height); }, c, dst, static_cast<int>(width),
+      static_cast<int>(height));
+}
+
+// Single objects.
+template <class T, class Matrix, class Right, class Result>
+ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
+                                  const Result& dst, int32_t width, int32_t height) {
+  qrSolution<T>(src1.object(0, width), buffer.pointer, src2.object(0), dst.object(0), width, height);
+  return zelStatusOk;
+}
+
+// Batches.
+template <class T, class Matrix, class Right, class Result>
+ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
+                                  const Result& dst, int32_t width, int32_t height, int32_t count) {
+  constexpr bool each = Matrix::isArray;
+  const auto single = [&](int64_t k) ZELM_BODY {
+    qrSolution<T>(src1.object(k, width), buffer.pointer, src2.object(k), dst.object(k), width, height);
+    return zelStatusOk;
+  };
+  const bool inLanes = count > 1 && qrFitsLanes(width, height);
+  QrScratch<Lanes<T>> scratch;
+  bool neighbours = areNeighbours(src2) && areNeighbours(dst);
+  if constexpr (each) {
+    neighbours = neighbours && areNeighbours(src1);
+  } else if (inLanes) {
+    // One matrix: its lanes and the denominators of its reflections serve all vectors.
+    const auto matrix = src1.object(0, width);
+    for (int32_t i = 0; i < height; ++i)
+      for (int32_t j = 0; j < width; ++j)
+        scratch.element[i * width + j] = splat<Lanes<T>>(matrix.load(i, j));
+    qrDenominators(scratch, width, height);
+  }
+  return forBlocks<T, isPointerLayout<Result>>(
+      count, neighbours,
+      [&](auto block) ZELM_BODY {
+        if (!inLanes)
+          return false;
+        if constexpr (each)
+          loadRectangle(matrixBlock(src1, block, width), scratch.element, width, height);
+        loadRectangle(vectorBlock(src2, block), scratch.vector, height, 1);
+        qrSolveLanes<each>(scratch, width, height);
+        storeRectangle(vectorBlock(dst, block), scratch.vector, width, 1);
+        return true;
+      },
+      single);
+}
+
+} // namespace zelm

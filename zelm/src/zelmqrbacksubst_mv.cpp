@@ -1,0 +1,28 @@
+// Exported functions: solution of a system with a QR-decomposed matrix.
+#include "zelmframe.h"
+#include "zelmqr.h"
+
+namespace zelm {
+
+// At least as many rows as columns.
+struct NotWider {
+  template <class M, class W, class B, class X>
+  static bool agree(const M&, const W&, const B&, const X&, Size width, Size height) {
+    return width <= height;
+  }
+};
+
+using N_Z_S_Shape = N_Z_S_M<NotWider>;
+using N_Z_H_Shape = N_Z_H_M<NotWider>;
+
+} // namespace zelm
+
+// clang-format off
+//     exported function  arguments type  order of tests  kernels: unit strides, any
+SINGLE(zelmQRBackSubst_mv_32f, QR_SOLVE_MV_S, float,  N_Z_S_Shape, ownzelmQRBackSubst_mv_32f, ownzelmQRBackSubst_mv_32f_S2)
+SINGLE(zelmQRBackSubst_mv_64f, QR_SOLVE_MV_S, double, N_Z_S_Shape, ownzelmQRBackSubst_mv_64f, ownzelmQRBackSubst_mv_64f_S2)
+
+//             exported function  arguments type  order of tests  kernel
+SINGLE_POINTER(zelmQRBackSubst_mv_32f_P, QR_SOLVE_MV_P, float,  N_Z_H_Shape, ownzelmQRBackSubst_mv_32f_P)
+SINGLE_POINTER(zelmQRBackSubst_mv_64f_P, QR_SOLVE_MV_P, double, N_Z_H_Shape, ownzelmQRBackSubst_mv_64f_P)
+// clang-format on

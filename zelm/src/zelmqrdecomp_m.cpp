@@ -1,0 +1,27 @@
+// Exported functions: QR decomposition of a matrix.
+#include "zelmframe.h"
+#include "zelmqr.h"
+
+namespace zelm {
+
+// At least as many rows as columns.
+struct NotWider {
+  template <class S, class B, class D> static bool agree(const S&, const B&, const D&, Size width, Size height) {
+    return width <= height;
+  }
+};
+
+using N_Z_S_Shape = N_Z_S_M<NotWider>;
+using N_Z_H_Shape = N_Z_H_M<NotWider>;
+
+} // namespace zelm
+
+// clang-format off
+//     exported function  arguments type  order of tests  kernels: unit strides, any
+SINGLE(zelmQRDecomp_m_32f, QR_FACTOR_M_S, float,  N_Z_S_Shape, ownzelmQRDecomp_m_32f, ownzelmQRDecomp_m_32f_S2)
+SINGLE(zelmQRDecomp_m_64f, QR_FACTOR_M_S, double, N_Z_S_Shape, ownzelmQRDecomp_m_64f, ownzelmQRDecomp_m_64f_S2)
+
+//             exported function  arguments type  order of tests  kernel
+SINGLE_POINTER(zelmQRDecomp_m_32f_P, QR_FACTOR_M_P, float,  N_Z_H_Shape, ownzelmQRDecomp_m_32f_P)
+SINGLE_POINTER(zelmQRDecomp_m_64f_P, QR_FACTOR_M_P, double, N_Z_H_Shape, ownzelmQRDecomp_m_64f_P)
+// clang-format on

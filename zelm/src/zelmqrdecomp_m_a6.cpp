@@ -1,0 +1,7 @@
+// Kernels on four-wide `32f` vectors: QR decomposition of a matrix, unit strides.
+#include "zelmqr.h"
+
+// clang-format off
+//     kernel  arguments strides type  body  straight-line shapes
+KERNEL(ownzelmQRDecomp_m_32f, QR_FACTOR_M_S, UNIT, float, qrFactors, AnyShape)
+// clang-format on
