@@ -2,6 +2,9 @@
 #
 # Two components: runtime (the shared library in its two builds) and development (header, link, archive, man pages,
 # package files). Used by a top-level build only.
+if(ZELM_SANITIZE)
+  return()
+endif()
 include(CMakePackageConfigHelpers)
 find_package(Python3 COMPONENTS Interpreter)
 
