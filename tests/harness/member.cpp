@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <list>
 #include <set>
 #include <sstream>
 
@@ -131,7 +132,8 @@ std::vector<Member>& table() {
 } // namespace
 
 Registration::Registration(Family family) {
-  const Family& kept = *new Family(std::move(family)); // lives as long as the program
+  static std::list<Family> families; // members point into it
+  const Family& kept = families.emplace_back(std::move(family));
   std::set<std::string> unused;
   for (const auto& exception : kept.exceptions)
     unused.insert(exception.first);

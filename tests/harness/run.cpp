@@ -162,6 +162,7 @@ int64_t roundUp(int64_t value, int64_t unit) {
 Placed place(const OperandInfo& op, const Dense& dense, Plan plan, size_t slot, Rng& rng) {
   const auto elem = static_cast<int64_t>(dense.elem);
   const bool byList = op.listed() && op.layout == 'L', byPosition = op.listed() && op.layout == 'P';
+  plan.far = plan.far && !op.plain && !op.value;
   const int positions = dense.rows * dense.cols;
   const Spread spread = op.plain || op.value ? Spread::Packed : plan.spread;
   const bool random = spread == Spread::Random;
