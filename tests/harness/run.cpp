@@ -416,6 +416,16 @@ std::vector<Slot> slotsOf(const Member& m, const Job& job, const std::vector<Pla
   return slots;
 }
 
+// A result in the place of a longer vector has the front of it.
+void keepCommon(Placed& placed, const Dense& source, const Dense& result) {
+  std::vector<unsigned char*> kept;
+  for (int k = 0; k < result.objects; ++k)
+    for (int row = 0; row < result.rows; ++row)
+      for (int col = 0; col < result.cols; ++col)
+        kept.push_back(placed.elements[source.position(k, row, col)]);
+  placed.elements = std::move(kept);
+}
+
 ZelStatus callWith(const Member& m, const std::vector<Slot>& slots, const CaseSpec& spec) {
   omp_set_num_threads(spec.threads);
   omp_set_dynamic(spec.team == Team::Dynamic);
@@ -482,6 +492,7 @@ std::string runCase(const Member& m, const CaseSpec& spec) {
     if (op.output && op.name == "dst" && spec.inPlace >= 0) {
       placed[o] = placed[static_cast<size_t>(spec.inPlace)];
       placed[o].shift = placed[static_cast<size_t>(spec.inPlace)].shift;
+      keepCommon(placed[o], job.operands[static_cast<size_t>(spec.inPlace)], job.operands[o]);
     } else {
       placed[o] = place(op, job.operands[o], spec.plans[o], o, rng);
       addWindows(windows, o, placed[o], job.operands[o].elem, rng);
