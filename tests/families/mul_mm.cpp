@@ -1,0 +1,321 @@
+// Products of matrices.
+#include "../harness/paths.h"
+#include "../harness/run.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace zelmtest;
+
+// ---- Sizes
+
+struct Dimensions {
+  int rows, terms, columns;
+};
+
+bool turned(const Member& m, int operand) {
+  return m.operands[static_cast<size_t>(operand)].transposed;
+}
+
+Dimensions dimensions(const Member& m, const Sizes& s) {
+  const int width1 = s.get("src1Width"), height1 = s.get("src1Height");
+  const int width2 = s.get("src2Width"), height2 = s.get("src2Height");
+  return {turned(m, 0) ? width1 : height1, turned(m, 0) ? height1 : width1, turned(m, 1) ? height2 : width2};
+}
+
+bool agree(const Member& m, const Sizes& s) {
+  return s.get(turned(m, 0) ? "src1Height" : "src1Width") == s.get(turned(m, 1) ? "src2Width" : "src2Height");
+}
+
+Sizes sizes(int width1, int height1, int width2, int height2) {
+  Sizes s;
+  s.set("src1Width", width1);
+  s.set("src1Height", height1);
+  s.set("src2Width", width2);
+  s.set("src2Height", height2);
+  return s;
+}
+
+// Two kernels take any sizes whose OR is 3 for 3 by 3.
+bool runs3By3(const Member& m, const Sizes& s) {
+  return (m.name == "zelmMul_mm_32f_P" || m.name == "zelmMul_tt_64f_P") &&
+         (s["src1Width"] | s["src1Height"] | s["src2Width"] | s["src2Height"]) == 3;
+}
+
+// One kernel takes a 4 by 4 src1 and a src2 of three stored rows for 4 by 4.
+bool runs4By4(const Member& m, const Sizes& s) {
+  return m.name == "zelmMul_mat_32f" && s.get("src1Width") == 4 && s.get("src1Height") == 4 && s.get("src2Height") == 3;
+}
+
+Shape shape(const Member& m, const std::string& operand, const Sizes& s) {
+  if (runs3By3(m, s))
+    return {3, 3};
+  if (runs4By4(m, s))
+    return {4, 4};
+  if (operand != "dst")
+    return {0, 0};
+  const Dimensions d = dimensions(m, s);
+  return {d.rows, d.columns};
+}
+
+std::vector<Sizes> shapes(const Member& m) {
+  std::vector<Sizes> all;
+  for (int n : {1, 2, 3, 4, 5, 6, 7, 8, 9, 12, 17, 35})
+    all.push_back(m.square(n, 1));
+  for (int n : {3, 4, 5, 6}) // one size off
+    for (int one = 0; one < 4; ++one)
+      for (int other : {n - 1, n + 1})
+        all.push_back(sizes(one == 0 ? other : n, one == 1 ? other : n, one == 2 ? other : n, one == 3 ? other : n));
+  if (!m.hasCount)
+    for (int code = 0; code < 81; ++code)
+      all.push_back(sizes(code % 3 + 1, code / 3 % 3 + 1, code / 9 % 3 + 1, code / 27 + 1));
+  Rng rng(1);
+  for (int i = 0; i < 24; ++i)
+    all.push_back(m.randomShape(rng, i < 16 ? 9 : 20));
+  std::vector<Sizes> agreeing;
+  for (const Sizes& s : all)
+    if (agree(m, s))
+      agreeing.push_back(s);
+  return agreeing;
+}
+
+// ---- Work
+
+uint32_t first(const Sizes& s) {
+  return s["src1Width"] * s["src1Height"];
+}
+uint32_t second(const Sizes& s) {
+  return s["src2Width"] * s["src2Height"];
+}
+// Elements of the result by the letters of the form.
+uint32_t mm(const Sizes& s) {
+  return s["src1Height"] * s["src2Width"];
+}
+uint32_t mt(const Sizes& s) {
+  return s["src1Height"] * s["src2Height"];
+}
+uint32_t tm(const Sizes& s) {
+  return s["src1Width"] * s["src2Width"];
+}
+uint32_t tt(const Sizes& s) {
+  return s["src1Width"] * s["src2Height"];
+}
+template <uint32_t (*result)(const Sizes&)> uint32_t firstArray(const Sizes& s) {
+  return second(s) + (first(s) + result(s)) * s["count"];
+}
+template <uint32_t (*result)(const Sizes&)> uint32_t secondArray(const Sizes& s) {
+  return first(s) + (second(s) + result(s)) * s["count"];
+}
+template <uint32_t (*result)(const Sizes&)> uint32_t bothArrays(const Sizes& s) {
+  return (first(s) + second(s) + result(s)) * s["count"];
+}
+
+// ---- Sums
+
+// The sizes whose sums start from the first product; all others start from +0.0. `unit` stands for a stride2 of one
+// element in all operands.
+struct Fixed {
+  const char* forms;
+  int elem;
+  const char *unit, *listUnit, *any, *listAny, *pointer;
+};
+// clang-format off
+constexpr Fixed fixed[] = {
+    // forms                                                   unit    list    any     list    pointer
+    {" mm mt tt ",                                          4, "3456", "",     "3456", "",     "3456"},
+    {" tm ",                                                4, "345",  "",     "3456", "",     "3456"},
+    {" mm mt tm tt ",                                       8, "3456", "",     "3456", "",     "3456"},
+    {" mam ",                                               4, "3456", "3456", "3456", "3",    "3"},
+    {" mat ",                                               4, "356",  "3456", "3",    "3",    "3"},
+    {" tam ",                                               4, "3456", "3456", "3",    "3",    "3"},
+    {" tat ",                                               4, "3456", "3456", "3456", "3",    "3456"},
+    {" mma tma ",                                           4, "3456", "3456", "3456", "3456", "3456"},
+    {" mta tta ",                                           4, "3456", "",     "3456", "3456", "3456"},
+    {" mama ",                                              4, "3456", "3456", "345",  "3456", "3456"},
+    {" mata tama tata ",                                    4, "3456", "3456", "3456", "3456", "3456"},
+    {" mam mat tam tat mma mta tma mama mata tama tata ",   8, "3456", "3456", "3456", "3456", "3456"},
+    {" tta ",                                               8, "3456", "",     "3456", "3456", "3456"},
+};
+// clang-format on
+
+bool startsWithProduct(const Member& m, const Sizes& s, bool unit) {
+  const int n = s.get("src1Width");
+  if (runs3By3(m, s) || (unit && runs4By4(m, s)))
+    return true;
+  if (s.get("src1Height") != n || s.get("src2Width") != n || s.get("src2Height") != n)
+    return false;
+  for (const Fixed& row : fixed)
+    if (row.elem == m.elem && std::string(row.forms).find(" " + m.formName + " ") != std::string::npos) {
+      const std::string list = m.layout == 'P'   ? row.pointer
+                               : m.layout == 'L' ? (unit ? row.listUnit : row.listAny)
+                                                 : (unit ? row.unit : row.any);
+      return list.find(std::to_string(n)) != std::string::npos;
+    }
+  throw std::logic_error(m.name);
+}
+
+template <class T> T sum(const std::vector<T>& terms, bool fromProduct) {
+  T total = fromProduct ? terms[0] : T(0) + terms[0];
+  for (size_t k = 1; k < terms.size(); ++k)
+    total = total + terms[k];
+  return total;
+}
+
+template <class Job> void reference(Job& job) {
+  auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
+  Sizes s = sizes(job.size("src1Width"), job.size("src1Height"), job.size("src2Width"), job.size("src2Height"));
+  Dimensions d = dimensions(job.member(), s);
+  if (runs3By3(job.member(), s))
+    d = {3, 3, 3};
+  if (runs4By4(job.member(), s) && job.unit())
+    d = {4, 4, 4};
+  const bool fromProduct = startsWithProduct(job.member(), s, job.unit());
+  for (int k = 0; k < job.count(); ++k)
+    for (int i = 0; i < d.rows; ++i)
+      for (int j = 0; j < d.columns; ++j) {
+        std::vector<decltype(src1(0, 0, 0))> terms;
+        for (int l = 0; l < d.terms; ++l)
+          terms.push_back(src1(k, i, l) * src2(k, l, j));
+        dst.set(k, i, j, sum(terms, fromProduct));
+      }
+}
+
+// Data whose terms are all -0.0.
+constexpr int negativeZeros = 9;
+
+template <class Job> void fill(Job& job, Rng& rng, int kind) {
+  if (kind != negativeZeros)
+    return;
+  auto src1 = job["src1"], src2 = job["src2"];
+  for (int k = 0; k < job.count(); ++k) {
+    for (int i = 0; i < src1.rows(); ++i)
+      for (int j = 0; j < src1.cols(); ++j)
+        src1.set(k, i, j, static_cast<float>(rng.within(1, 9)));
+    for (int i = 0; i < src2.rows(); ++i)
+      for (int j = 0; j < src2.cols(); ++j)
+        src2.set(k, i, j, -0.0f);
+  }
+}
+
+// ---- The table
+
+constexpr Orders single = {"NZMS", nullptr, "NZMH"}, array = {"NCZMS", "NCZMSH", "NCZMSH"};
+constexpr Limits limits32 = {2500, 1440, 3600, 1440, 1440}, limits64 = {3600, 1440, 3600, 1440, 1440};
+
+#define SIZES1 " src1Width src1Height "
+#define SIZES2 " src2Width src2Height "
+
+Family family() {
+  Family f;
+  f.name = "Mul on matrices";
+  // clang-format off
+  f.forms = {
+      {ZELMTEST_SINGLE(zelmMul_mm),  "src1:m"  SIZES1 "src2:m"  SIZES2 "dst:m",        single},
+      {ZELMTEST_SINGLE(zelmMul_mt),  "src1:m"  SIZES1 "src2:t"  SIZES2 "dst:m",        single},
+      {ZELMTEST_SINGLE(zelmMul_tm),  "src1:t"  SIZES1 "src2:m"  SIZES2 "dst:m",        single},
+      {ZELMTEST_SINGLE(zelmMul_tt),  "src1:t"  SIZES1 "src2:t"  SIZES2 "dst:m",        single},
+      {ZELMTEST_ARRAY(zelmMul_mam),  "src1:ma" SIZES1 "src2:m"  SIZES2 "dst:ma count", array, "", firstArray<mm>,  limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_mat),  "src1:ma" SIZES1 "src2:t"  SIZES2 "dst:ma count", array, "", firstArray<mt>,  limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_tam),  "src1:ta" SIZES1 "src2:m"  SIZES2 "dst:ma count", array, "", firstArray<tm>,  limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_tat),  "src1:ta" SIZES1 "src2:t"  SIZES2 "dst:ma count", array, "", firstArray<tt>,  limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_mma),  "src1:m"  SIZES1 "src2:ma" SIZES2 "dst:ma count", array, "", secondArray<mm>, limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_mta),  "src1:m"  SIZES1 "src2:ta" SIZES2 "dst:ma count", array, "", secondArray<mt>, limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_tma),  "src1:t"  SIZES1 "src2:ma" SIZES2 "dst:ma count", array, "", secondArray<tm>, limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_tta),  "src1:t"  SIZES1 "src2:ta" SIZES2 "dst:ma count", array, "", secondArray<tt>, limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_mama), "src1:ma" SIZES1 "src2:ma" SIZES2 "dst:ma count", array, "", bothArrays<mm>,  limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_mata), "src1:ma" SIZES1 "src2:ta" SIZES2 "dst:ma count", array, "", bothArrays<mt>,  limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_tama), "src1:ta" SIZES1 "src2:ma" SIZES2 "dst:ma count", array, "", bothArrays<tm>,  limits32, limits64},
+      {ZELMTEST_ARRAY(zelmMul_tata), "src1:ta" SIZES1 "src2:ta" SIZES2 "dst:ma count", array, "", bothArrays<tt>,  limits32, limits64},
+  };
+  // clang-format on
+  f.fork = Fork::Above;
+  f.agrees = agree;
+  f.shape = shape;
+  f.shapes = shapes;
+  f.dataKinds = {0, 0, 1, 2, 3, 4, negativeZeros};
+  f.fill = bothFill([](auto& job, Rng& rng, int kind) { fill(job, rng, kind); });
+  f.reference = both([](auto& job) { reference(job); });
+  return f;
+}
+
+const Registration registration{family()};
+
+// ---- What the suites may miss
+
+// The start of the sum in every kernel at every size.
+TEST(Results, ProductsOfNegativeZeros) {
+  for (const Member& m : members())
+    for (const Sizes& s : shapes(m))
+      for (Spread spread : {Spread::Packed, Spread::PaddedRows, Spread::Double})
+        for (int32_t count : {1, 19}) {
+          CaseSpec spec;
+          spec.id = "Z";
+          spec.sizes = s;
+          if (m.hasCount)
+            spec.sizes.set("count", count);
+          Plan plan;
+          plan.spread = spread;
+          spec.plans.assign(m.operands.size(), plan);
+          spec.dataKind = negativeZeros;
+          const std::string fault = runCase(m, spec);
+          ASSERT_EQ("", fault) << m.name << s.text();
+        }
+}
+
+// Data of the kinds in use tells the sum from other sums of the same terms.
+template <class T> bool toldApart(const Member& m, T (*other)(const std::vector<T>&)) {
+  Rng rng(3);
+  for (int trial = 0; trial < 50; ++trial) {
+    Job job(m, m.square(4, 2));
+    for (Dense& operand : job.operands)
+      fillDense(operand, rng, m.family->dataKinds[static_cast<size_t>(trial % 6)]);
+    Typed<T> typed(job);
+    auto src1 = typed["src1"], src2 = typed["src2"];
+    std::vector<T> terms;
+    for (int k = 0; k < 4; ++k)
+      terms.push_back(src1(0, 0, k) * src2(0, k, 0));
+    const T a = sum(terms, true), b = other(terms);
+    if (!sameElement(reinterpret_cast<const unsigned char*>(&a), reinterpret_cast<const unsigned char*>(&b), sizeof(T),
+                     false, false))
+      return true;
+  }
+  return false;
+}
+
+template <class T> void tellsApart(const Member& m) {
+  EXPECT_TRUE(toldApart<T>(m, [](const std::vector<T>& t) { return (t[0] + t[1]) + (t[2] + t[3]); }));
+  EXPECT_TRUE(toldApart<T>(m, [](const std::vector<T>& t) { return (t[0] + t[2]) + (t[1] + t[3]); }));
+  EXPECT_TRUE(toldApart<T>(m, [](const std::vector<T>& t) { return ((t[3] + t[2]) + t[1]) + t[0]; }));
+  EXPECT_TRUE(toldApart<T>(m, [](const std::vector<T>& t) { return ((t[3] + t[0]) + t[1]) + t[2]; }));
+  EXPECT_TRUE(toldApart<T>(m, [](const std::vector<T>& t) { return ((t[0] + t[2]) + t[1]) + t[3]; }));
+}
+
+TEST(Results, DataTellsSumsApart) {
+  tellsApart<float>(member("zelmMul_mama_32f"));
+  tellsApart<double>(member("zelmMul_mama_64f"));
+}
+
+std::string entered(const char* name, int n, int32_t count, int32_t firstStride2 = 0) {
+  const Member& m = member(name);
+  std::vector<Slot> slots = wildSlots(m, m.square(n, count));
+  for (size_t i = 0; firstStride2 != 0 && i < slots.size(); ++i)
+    if (m.arguments[i].name == "src1Stride2")
+      slots[i].integer = firstStride2;
+  return probe(m, slots);
+}
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownzelmMul_mam_32f", entered("zelmMul_mam_32f", 4, 52)); // 16 + 32 * 52 = 1680
+  EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 4, 52, 8));
+  EXPECT_EQ("ownzelmMul_mama_64f", entered("zelmMul_mama_64f", 10, 12)); // 3600
+  EXPECT_EQ("ownOMP_zelmMul_mama_64f", entered("zelmMul_mama_64f", 10, 13));
+  EXPECT_EQ("ownzelmMul_mama_32f_P", entered("zelmMul_mama_32f_P", 4, 30)); // 1440
+  EXPECT_EQ("ownOMP_zelmMul_mama_32f_P", entered("zelmMul_mama_32f_P", 4, 31));
+  EXPECT_EQ("ownzelmMul_mam_32f", entered("zelmMul_mam_32f", 30000, 1)); // wraps below zero
+  EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 30000, 2));
+}
+
+} // namespace
