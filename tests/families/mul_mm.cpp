@@ -143,7 +143,7 @@ bool startsWithProduct(const Member& m, const Sizes& s, bool unit) {
   const int n = s.get("src1Width");
   if (runs3By3(m, s) || (unit && runs4By4(m, s)))
     return true;
-  if (s.get("src1Height") != n || s.get("src2Width") != n || s.get("src2Height") != n)
+  if (n > 9 || s.get("src1Height") != n || s.get("src2Width") != n || s.get("src2Height") != n)
     return false;
   for (const Fixed& row : fixed)
     if (row.elem == m.elem && std::string(row.forms).find(" " + m.formName + " ") != std::string::npos) {

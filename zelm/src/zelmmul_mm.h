@@ -435,22 +435,21 @@ ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, co
 // ---------------------------------------------------------------------------------------------------------------------
 // General path: any sizes; every sum starts from +0.0
 
-// W neighbouring columns of rows k, k + 1, ... of a factor whose stored rows are its columns.
-template <int W, class B, class V> ZELM_INLINE void turnColumns(const B& b, int64_t k, int64_t j, V* rows) {
+// Rows k, k + 1, ... of W neighbouring columns from j on, of a factor whose stored rows are its columns.
+template <class V> struct Turned { V row[chunkElements<typename LaneTraits<V>::Element>]; };
+template <int W, class B> ZELM_INLINE auto turnColumns(const B& b, int64_t k, int64_t j) {
   using T = typename B::Element;
   constexpr int Q = chunkElements<T>;
-  V turn[Q];
+  Turned<Lanes<T, W>> turned;
   ZELM_UNROLL
   for (int q = 0; q < Q; ++q) {
     if constexpr (W == 2 * Q)
-      turn[q] = joinHalves(loadLanes<T, Q>(b.address(k, j + q)), loadLanes<T, Q>(b.address(k, j + q + Q)));
+      turned.row[q] = joinHalves(loadLanes<T, Q>(b.address(k, j + q)), loadLanes<T, Q>(b.address(k, j + q + Q)));
     else
-      turn[q] = loadLanes<T, Q>(b.address(k, j + q));
+      turned.row[q] = loadLanes<T, Q>(b.address(k, j + q));
   }
-  transposeChunk(turn);
-  ZELM_UNROLL
-  for (int q = 0; q < Q; ++q)
-    rows[q] = turn[q];
+  transposeChunk(turned.row);
+  return turned;
 }
 
 // R rows of the result from row i on, V vectors of W columns from columns j[] on.
@@ -472,22 +471,21 @@ ZELM_INLINE void multiplyPanel(const A& a, const B& b, const D& d, int64_t i, co
   int64_t k = 0;
   if constexpr (W > 1 && !B::unitRows) {
     for (; k + Q <= n; k += Q) {
-      L turned[V][Q];
+      L rows[Q][V];
       ZELM_UNROLL
-      for (int v = 0; v < V; ++v)
-        turnColumns<W>(b, k, j[v], turned[v]);
-      ZELM_UNROLL
-      for (int q = 0; q < Q; ++q) {
-        L row[V];
+      for (int v = 0; v < V; ++v) {
+        const auto turned = turnColumns<W>(b, k, j[v]);
         ZELM_UNROLL
-        for (int v = 0; v < V; ++v)
-          row[v] = turned[v][q];
-        add(k + q, row);
+        for (int q = 0; q < Q; ++q)
+          rows[q][v] = turned.row[q];
       }
+      ZELM_UNROLL
+      for (int q = 0; q < Q; ++q)
+        add(k + q, rows[q]);
     }
   }
   for (; k < n; ++k) {
-    L row[V] = {};
+    L row[V];
     ZELM_UNROLL
     for (int v = 0; v < V; ++v) {
       if constexpr (W == 1) {
@@ -495,9 +493,11 @@ ZELM_INLINE void multiplyPanel(const A& a, const B& b, const D& d, int64_t i, co
       } else if constexpr (B::unitRows) {
         row[v] = loadLanes<T, W>(b.address(k, j[v]));
       } else {
+        L gathered{};
         ZELM_UNROLL
         for (int w = 0; w < W; ++w)
-          row[v][w] = b.load(k, j[v] + w);
+          gathered[w] = b.load(k, j[v] + w);
+        row[v] = gathered;
       }
     }
     add(k, row);
@@ -546,7 +546,7 @@ ZELM_INLINE void multiplyWide(const A& a, const B& b, const D& d, int64_t rows, 
   for (; j + W < columns; j += 2 * W)
     multiplyPanels<W, 2>(a, b, d, {j, from(j + W)}, rows, n);
   if (j < columns)
-    multiplyPanels<W, 1>(a, b, d, {j}, rows, n);
+    multiplyPanels<W, 1>(a, b, d, {from(j)}, rows, n);
 }
 
 template <class A, class B, class D>
