@@ -101,6 +101,8 @@ std::vector<Contender> library(const std::array<const char*, sizeof...(Functions
 
 // Run by main before the benchmarks, one for each family.
 void registerAdd();
+void registerCholesky();
+void registerQR();
 
 } // namespace bench
 
