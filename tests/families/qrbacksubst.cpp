@@ -178,17 +178,19 @@ TEST(QRBuffer, FrontsBlock) {
     asked = 0;
     ASSERT_EQ(threaded.decompose(wild()), zelStatusOk);
     ASSERT_EQ(threaded.solve(wild()), zelStatusOk);
-    if (countedBuild)
+    if (countedBuild) {
       EXPECT_EQ(asked, 2);
+    }
     refuses = true;
     clearEntries();
     EXPECT_EQ(refused.decompose(buffer.data()), zelStatusOk);
     EXPECT_EQ(refused.solve(buffer.data()), zelStatusOk);
     const std::vector<std::string> entered = entries();
     refuses = false;
-    if (countedBuild)
+    if (countedBuild) {
       EXPECT_EQ(entered, (std::vector<std::string>{"ownOMP_zelmQRDecomp_ma_32f", "ownzelmQRDecomp_ma_32f",
                                                    "ownOMP_zelmQRBackSubst_mava_32f", "ownzelmQRBackSubst_mava_32f"}));
+    }
     omp_set_num_threads(1);
     ASSERT_EQ(alone.decompose(buffer.data()), zelStatusOk);
     ASSERT_EQ(alone.solve(buffer.data()), zelStatusOk);
