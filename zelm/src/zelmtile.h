@@ -111,7 +111,7 @@ ZELM_INLINE void transposeChunk(Lanes<double, 4> (&v)[2]) {
   v[0] = a0;
   v[1] = a1;
 }
-#else
+#endif
 ZELM_INLINE void transposeChunk(Lanes<float, 4> (&v)[4]) {
   const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 1, 5);
   const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 6, 3, 7);
@@ -128,7 +128,6 @@ ZELM_INLINE void transposeChunk(Lanes<double, 2> (&v)[2]) {
   v[0] = a0;
   v[1] = a1;
 }
-#endif
 
 // Chunk of each object at `offset` bytes: lanes[e] gets element e of every object. The transposition is its own
 // inverse.
@@ -161,8 +160,19 @@ ZELM_INLINE void storeChunk(const ObjectAddresses<T, char>& x, int64_t offset, L
   }
 }
 
+// Three elements of one object.
+ZELM_INLINE Lanes<float, 4> loadTriple(const char* address) {
+  const auto two = _mm_load_sd(reinterpret_cast<const double*>(address));
+  const auto third = _mm_load_ss(reinterpret_cast<const float*>(address) + 2);
+  return _mm_movelh_ps(_mm_castpd_ps(two), third);
+}
+ZELM_INLINE void storeTriple(char* address, Lanes<float, 4> v) {
+  _mm_storel_pd(reinterpret_cast<double*>(address), _mm_castps_pd(v));
+  _mm_store_ss(reinterpret_cast<float*>(address) + 2, _mm_movehl_ps(v, v));
+}
+
 // N neighbouring elements of each object at `offset` bytes, into lanes[0 .. N-1]. The last chunk of a run of at least
-// one chunk overlaps its neighbour; a shorter run goes element by element.
+// one chunk overlaps its neighbour; three elements are two and one; a shorter run goes element by element.
 template <int N, class T, class C>
 ZELM_INLINE void loadRun(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T>* lanes) {
   constexpr int Q = chunkElements<T>;
@@ -176,6 +186,20 @@ ZELM_INLINE void loadRun(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T
       for (int q = e - from; q < Q; ++q)
         lanes[from + q] = chunk[q];
     }
+  } else if constexpr (N == 3) {
+    Lanes<T> chunk[Q];
+    ZELM_UNROLL
+    for (int q = 0; q < Q; ++q) {
+#ifdef __AVX2__
+      chunk[q] = joinHalves(loadTriple(x.of[q] + offset), loadTriple(x.of[q + Q] + offset));
+#else
+      chunk[q] = loadTriple(x.of[q] + offset);
+#endif
+    }
+    transposeChunk(chunk);
+    ZELM_UNROLL
+    for (int e = 0; e < N; ++e)
+      lanes[e] = chunk[e];
   } else {
     ZELM_UNROLL
     for (int e = 0; e < N; ++e)
@@ -199,6 +223,18 @@ ZELM_INLINE void storeRun(const ObjectAddresses<T, char>& x, int64_t offset, con
       for (int q = 0; q < Q; ++q)
         chunk[q] = lanes[from + q];
       storeChunk<T>(x, offset + from * E, chunk);
+    }
+  } else if constexpr (N == 3) {
+    Lanes<T> chunk[Q] = {lanes[0], lanes[1], lanes[2], lanes[2]};
+    transposeChunk(chunk);
+    ZELM_UNROLL
+    for (int q = 0; q < Q; ++q) {
+#ifdef __AVX2__
+      storeTriple(x.of[q] + offset, lowHalf(chunk[q]));
+      storeTriple(x.of[q + Q] + offset, highHalf(chunk[q]));
+#else
+      storeTriple(x.of[q] + offset, chunk[q]);
+#endif
     }
   } else {
     ZELM_UNROLL

@@ -1,0 +1,319 @@
+// Solution of linear systems from what LUDecomp left: row index[i] of src1 is row i of the factors.
+//
+// Sides 3 to 6 and all other sides differ on purpose: the former multiply by reciprocals of the diagonal and subtract
+// term by term, in the forward pass the term of column 0 last; the latter subtract sums and divide.
+#pragma once
+
+#include "zelmbatch.h"
+
+// clang-format off
+#define LUBACKSUBST(V, T, A, B, D, each) V##_##A(src1, const T), V##_PLAIN(index, const int32_t, each), V##_##B(src2, const T), V##_##D(dst, T), V##_SIZE(widthHeight)
+// One matrix and its index serve all vectors of mva.
+#define LUBACKSUBST_MV_S(V, T)   LUBACKSUBST(V, T, M_S,  V_S,  V_S,  0)
+#define LUBACKSUBST_MV_P(V, T)   LUBACKSUBST(V, T, M_P,  V_P,  V_P,  0)
+#define LUBACKSUBST_MVA_S(V, T)  LUBACKSUBST(V, T, M_S,  VA_S, VA_S, 0), V##_COUNT
+#define LUBACKSUBST_MVA_L(V, T)  LUBACKSUBST(V, T, M_S,  VA_L, VA_L, 0), V##_COUNT
+#define LUBACKSUBST_MVA_P(V, T)  LUBACKSUBST(V, T, M_P,  VA_P, VA_P, 0), V##_COUNT
+#define LUBACKSUBST_MAVA_S(V, T) LUBACKSUBST(V, T, MA_S, VA_S, VA_S, widthHeight), V##_COUNT
+#define LUBACKSUBST_MAVA_L(V, T) LUBACKSUBST(V, T, MA_L, VA_L, VA_L, widthHeight), V##_COUNT
+#define LUBACKSUBST_MAVA_P(V, T) LUBACKSUBST(V, T, MA_P, VA_P, VA_P, widthHeight), V##_COUNT
+// clang-format on
+
+namespace zelm {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// General loop, one right-hand side, in dst
+
+template <class A, class B, class D>
+inline void substituteLoop(const A& src1, const int32_t* p, const B& src2, const D& dst, int32_t n) {
+  using T = typename D::Element;
+  dst.store(0, src2.load(p[0]));
+  for (int32_t i = 1; i < n; ++i) {
+    T sum = 0;
+    for (int32_t j = 0; j < i; ++j)
+      sum = sum + src1.load(p[i], j) * dst.load(j);
+    dst.store(i, src2.load(p[i]) - sum);
+  }
+  dst.store(n - 1, dst.load(n - 1) / src1.load(p[n - 1], n - 1));
+  for (int32_t i = n - 2; i >= 0; --i) {
+    T sum = 0;
+    for (int32_t j = i + 1; j < n; ++j)
+      sum = sum + src1.load(p[i], j) * dst.load(j);
+    dst.store(i, (dst.load(i) - sum) / src1.load(p[i], i));
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Sides 3 to 6: the factors with their rows in order, in lanes of any type
+
+template <class L, int N> struct Factors {
+  Tile<L, N, N> a;
+  L reciprocal[N];
+};
+
+template <class L, int N> ZELM_INLINE void takeReciprocals(Factors<L, N>& f) {
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    f.reciprocal[i] = splat<L>(ElementOf<L>(1)) / f.a(i, i);
+}
+
+// x holds the right-hand side in the order of the rows, then the solution.
+template <class L, int N> ZELM_INLINE void substitute(const Factors<L, N>& f, Tile<L, 1, N>& x) {
+  ZELM_UNROLL
+  for (int i = 1; i < N; ++i) {
+    ZELM_UNROLL
+    for (int j = 1; j < i; ++j)
+      x(0, i) = x(0, i) - f.a(i, j) * x(0, j);
+    x(0, i) = x(0, i) - f.a(i, 0) * x(0, 0);
+  }
+  x(0, N - 1) = x(0, N - 1) * f.reciprocal[N - 1];
+  ZELM_UNROLL
+  for (int i = N - 2; i >= 0; --i) {
+    ZELM_UNROLL
+    for (int j = N - 1; j > i; --j)
+      x(0, i) = x(0, i) - f.a(i, j) * x(0, j);
+    x(0, i) = x(0, i) * f.reciprocal[i];
+  }
+}
+
+template <int N, class T, class A> ZELM_INLINE Factors<T, N> readFactors(const A& src1, const int32_t* p) {
+  Factors<T, N> f;
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    ZELM_UNROLL
+  for (int j = 0; j < N; ++j)
+    f.a(i, j) = src1.load(p[i], j);
+  takeReciprocals(f);
+  return f;
+}
+
+// One right-hand side; all of it is read before dst is written.
+template <int N, class T, class B, class D>
+ZELM_INLINE void substituteOne(const Factors<T, N>& f, const int32_t* p, const B& src2, const D& dst) {
+  Tile<T, 1, N> x;
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    x(0, i) = src2.load(p[i]);
+  substitute(f, x);
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    dst.store(i, x(0, i));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// One matrix, a block of right-hand sides
+
+template <int N, class T> ZELM_INLINE Tile<Lanes<T>, 1, N> permuted(const Tile<Lanes<T>, 1, N>& b, const int32_t* p) {
+  Tile<Lanes<T>, 1, N> x;
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    x(0, i) = b(0, p[i]);
+  return x;
+}
+
+template <class T, int N> ZELM_INLINE void spread(const Factors<T, N>& f, Factors<Lanes<T>, N>& lanes) {
+  for (int e = 0; e < N * N; ++e)
+    lanes.a.element[e] = splat<Lanes<T>>(f.a.element[e]);
+  for (int i = 0; i < N; ++i)
+    lanes.reciprocal[i] = splat<Lanes<T>>(f.reciprocal[i]);
+}
+
+template <int N, class B, class D>
+inline void substituteVectors(const Factors<typename D::Element, N>& f, const int32_t* p, const B& src2, const D& dst,
+                              int32_t count) {
+  using T = typename D::Element;
+  using View = decltype(dst.object(0));
+  constexpr int W = laneCount<T>;
+  if (count == 1) {
+    substituteOne<N, T>(f, p, src2.object(0), dst.object(0));
+    return;
+  }
+  Factors<Lanes<T>, N> lanes;
+  spread(f, lanes);
+  Tile<Lanes<T>, 1, N> b;
+  if constexpr (View::unitRows) {
+    for (int64_t k = 0; k < count; k += W) {
+      loadRun<N, T>(vectorAddresses(src2, k, count), 0, b.element);
+      Tile<Lanes<T>, 1, N> x = permuted<N, T>(b, p);
+      substitute(lanes, x);
+      storeRun<N, T>(vectorAddresses(dst, k, count), 0, x.element);
+    }
+  } else {
+    const auto from = vectorPositions<N>(src2);
+    const auto to = vectorPositions<N>(dst);
+    for (int64_t k = 0; k < count; k += W) {
+      loadElements<T>(from.of, N, objectOffsets(src2, k, count), b.element);
+      Tile<Lanes<T>, 1, N> x = permuted<N, T>(b, p);
+      substitute(lanes, x);
+      storeElements<T>(to.of, N, objectOffsets(dst, k, count), x.element);
+    }
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// A block of matrices and right-hand sides, pair by pair
+
+// out(i, j) = in(p[i], j) in every lane.
+template <class L, int R, int C>
+ZELM_INLINE void orderRows(const Tile<L, R, C>& in, const IntegerOf<L> (&p)[R], Tile<L, R, C>& out) {
+  ZELM_UNROLL
+  for (int i = 0; i < R; ++i) {
+    ZELM_UNROLL
+    for (int j = 0; j < C; ++j)
+      out(i, j) = in(R - 1, j);
+    ZELM_UNROLL
+    for (int r = 0; r < R - 1; ++r) {
+      const IntegerOf<L> here = p[i] == r;
+      ZELM_UNROLL
+      for (int j = 0; j < C; ++j)
+        out(i, j) = select<L>(here, in(r, j), out(i, j));
+    }
+  }
+}
+
+template <int N, class T>
+__attribute__((noinline)) void
+substituteRows(const ObjectAddresses<T, const char>& src1, int64_t step, const PlainAddresses<T, const int32_t>& index,
+               const ObjectAddresses<T, const char>& src2, const ObjectAddresses<T, char>& dst) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  Factors<Lanes<T>, N> f;
+  Tile<Lanes<T>, 1, N> x;
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i) {
+    ObjectAddresses<T, const char> row;
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      row.of[w] = src1.of[w] + index.of[w][i] * step;
+    loadRun<N, T>(row, 0, &f.a(i, 0));
+    x(0, i) = gatherLanes<T>([&](int w) ZELM_BODY { return src2.of[w] + index.of[w][i] * E; });
+  }
+  takeReciprocals(f);
+  substitute(f, x);
+  storeRun<N, T>(dst, 0, x.element);
+}
+
+template <int N, class T>
+__attribute__((noinline)) void substituteElements(const Positions<N * N>& src1Positions, const ObjectOffsets<T>& src1,
+                                                  const PlainAddresses<T, const int32_t>& index,
+                                                  const Positions<N>& src2Positions, const ObjectOffsets<T>& src2,
+                                                  const Positions<N>& dstPositions, const ObjectOffsets<T>& dst) {
+  using Integers = IntegerOf<Lanes<T>>;
+  Tile<Lanes<T>, N, N> a;
+  Tile<Lanes<T>, 1, N> b;
+  loadElements<T>(src1Positions.of, N * N, src1, a.element);
+  loadElements<T>(src2Positions.of, N, src2, b.element);
+  Integers p[N];
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    ZELM_UNROLL
+  for (int w = 0; w < laneCount<T>; ++w)
+    p[i][w] = index.of[w][i];
+  Factors<Lanes<T>, N> f;
+  orderRows(a, p, f.a);
+  Tile<Lanes<T>, N, 1> column;
+  Tile<Lanes<T>, N, 1> ordered;
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    column(i, 0) = b(0, i);
+  orderRows(column, p, ordered);
+  Tile<Lanes<T>, 1, N> x;
+  ZELM_UNROLL
+  for (int i = 0; i < N; ++i)
+    x(0, i) = ordered(i, 0);
+  takeReciprocals(f);
+  substitute(f, x);
+  storeElements<T>(dstPositions.of, N, dst, x.element);
+}
+
+template <int N, class A, class B, class D>
+inline void substitutePairs(const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                            int32_t count) {
+  using T = typename D::Element;
+  constexpr int W = laneCount<T>;
+  const auto one = [&](int64_t k) {
+    const int32_t* p = index.pointer + k * N;
+    substituteOne<N, T>(readFactors<N, T>(src1.object(k, N), p), p, src2.object(k), dst.object(k));
+  };
+  if (count % W == 1)
+    one(count - 1);
+  const int32_t end = count % W == 1 ? count - 1 : count;
+  if constexpr (decltype(dst.object(0))::unitRows) {
+    for (int64_t k = 0; k < end; k += W)
+      substituteRows<N, T>(matrixAddresses(src1, k, count), src1.stride1, plainAddresses<T>(index, k, count),
+                           vectorAddresses(src2, k, count), vectorAddresses(dst, k, count));
+  } else {
+    const auto matrix = matrixPositions<N>(src1);
+    const auto from = vectorPositions<N>(src2);
+    const auto to = vectorPositions<N>(dst);
+    for (int64_t k = 0; k < end; k += W)
+      substituteElements<N, T>(matrix, objectOffsets(src1, k, count), plainAddresses<T>(index, k, count), from,
+                               objectOffsets(src2, k, count), to, objectOffsets(dst, k, count));
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Kernels
+
+using FixedSizes = Sizes<3, 4, 5, 6>;
+
+// mv
+struct OneVector {};
+template <class A, class B, class D>
+inline ZelStatus solve(OneVector, const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                       int32_t widthHeight) {
+  return forSize(
+      FixedSizes{}, widthHeight,
+      [&](auto side) {
+        using T = typename D::Element;
+        const int32_t* p = index.pointer;
+        substituteOne<side, T>(readFactors<side, T>(src1.object(0, side), p), p, src2.object(0), dst.object(0));
+        return zelStatusOk;
+      },
+      [&] {
+        substituteLoop(src1.object(0, widthHeight), index.pointer, src2.object(0), dst.object(0), widthHeight);
+        return zelStatusOk;
+      });
+}
+
+// mva
+struct OneMatrix {};
+template <class A, class B, class D>
+inline ZelStatus solve(OneMatrix, const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                       int32_t widthHeight, int32_t count) {
+  return forSize(
+      FixedSizes{}, widthHeight,
+      [&](auto side) {
+        using T = typename D::Element;
+        int32_t p[side];
+        for (int i = 0; i < side; ++i)
+          p[i] = index.pointer[i];
+        substituteVectors<side>(readFactors<side, T>(src1.object(0, side), p), p, src2, dst, count);
+        return zelStatusOk;
+      },
+      [&] {
+        for (int32_t k = 0; k < count; ++k)
+          substituteLoop(src1.object(0, widthHeight), index.pointer, src2.object(k), dst.object(k), widthHeight);
+        return zelStatusOk;
+      });
+}
+
+// mava
+struct Pairs {};
+template <class A, class B, class D>
+inline ZelStatus solve(Pairs, const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                       int32_t widthHeight, int32_t count) {
+  return forSize(
+      FixedSizes{}, widthHeight,
+      [&](auto side) {
+        substitutePairs<side>(src1, index, src2, dst, count);
+        return zelStatusOk;
+      },
+      [&] {
+        for (int32_t k = 0; k < count; ++k)
+          substituteLoop(src1.object(k, widthHeight), index.single(k).pointer, src2.object(k), dst.object(k),
+                         widthHeight);
+        return zelStatusOk;
+      });
+}
+
+} // namespace zelm

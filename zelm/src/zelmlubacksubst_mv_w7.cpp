@@ -1,0 +1,7 @@
+// Kernels on two-wide `64f` vectors: LUBackSubst on one matrix and one vector, unit strides.
+#include "zelmlubacksubst.h"
+
+// clang-format off
+//     kernel                     arguments         strides type    body   case
+KERNEL(ownzelmLUBackSubst_mv_64f, LUBACKSUBST_MV_S, UNIT,   double, solve, OneVector)
+// clang-format on

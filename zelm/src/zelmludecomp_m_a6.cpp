@@ -1,0 +1,8 @@
+// Kernels on four-wide `32f` vectors: LUDecomp on single matrices, unit strides.
+#include "zelmludecomp.h"
+
+// clang-format off
+//     kernel                       arguments     strides type   body           general loop
+KERNEL(ownzelmLUDecomp_m_32f,       LUDECOMP_M_S, UNIT, float, decompose,     Otherwise<ownzelmLUDecomp_m_32f_S_com>)
+KERNEL(ownzelmLUDecomp_m_32f_S_com, LUDECOMP_M_S, UNIT, float, decomposeLoop, InDst)
+// clang-format on

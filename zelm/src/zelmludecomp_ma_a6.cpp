@@ -1,0 +1,8 @@
+// Kernels on four-wide `32f` vectors: LUDecomp on arrays of matrices, unit strides.
+#include "zelmludecomp.h"
+
+// clang-format off
+//     kernel                    arguments      strides type   body       general loop
+KERNEL(ownzelmLUDecomp_ma_32f,   LUDECOMP_MA_S, UNIT, float, decompose, Otherwise<ownzelmLUDecomp_m_32f_S_com>)
+KERNEL(ownzelmLUDecomp_ma_32f_L, LUDECOMP_MA_L, UNIT, float, decompose, Otherwise<ownzelmLUDecomp_m_32f_S_com>)
+// clang-format on
