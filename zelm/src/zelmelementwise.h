@@ -10,7 +10,8 @@
 namespace zelm {
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Runs: elements that lie one behind the other, on vectors. Four vectors are read before the first is written.
+// Runs: elements that lie one behind the other, on vectors. Each vector is read just before it is written: processors
+// take loads and stores best in turns.
 
 // Elements of a run left before dst is aligned to a vector; -1 if it never is.
 template <class T> ZELM_INLINE int64_t elementsToAlignment(const char* dst) {
@@ -34,14 +35,11 @@ ZELM_INLINE int64_t runVectors(Op op, char* dst, const char* a, const char* b, i
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   int64_t e = first;
   for (; e + 4 * W <= n; e += 4 * W) {
-    const auto v0 = op(loadLanes<T>(a + e * E), loadLanes<T>(b + e * E));
-    const auto v1 = op(loadLanes<T>(a + (e + W) * E), loadLanes<T>(b + (e + W) * E));
-    const auto v2 = op(loadLanes<T>(a + (e + 2 * W) * E), loadLanes<T>(b + (e + 2 * W) * E));
-    const auto v3 = op(loadLanes<T>(a + (e + 3 * W) * E), loadLanes<T>(b + (e + 3 * W) * E));
-    putLanes<Stream>(dst + e * E, v0);
-    putLanes<Stream>(dst + (e + W) * E, v1);
-    putLanes<Stream>(dst + (e + 2 * W) * E, v2);
-    putLanes<Stream>(dst + (e + 3 * W) * E, v3);
+    ZELM_UNROLL
+    for (int u = 0; u < 4; ++u) {
+      const int64_t at = (e + u * W) * E;
+      putLanes<Stream>(dst + at, op(loadLanes<T>(a + at), loadLanes<T>(b + at)));
+    }
   }
   for (; e + W <= n; e += W)
     putLanes<Stream>(dst + e * E, op(loadLanes<T>(a + e * E), loadLanes<T>(b + e * E)));
@@ -70,40 +68,55 @@ template <class T, class Op> inline void runPair(Op op, char* dst, const char* a
   runElements<T>(op, dst, a, b, e, n);
 }
 
-// The longest object whose constant operand is laid out as a period.
-constexpr int longestPeriod = 64;
+// How many vectors it takes until the period of an operand begins with a vector again, at least four.
+template <class T> constexpr int periodVectors(int period) {
+  int vectors = 4;
+  while (vectors * laneCount<T> % period != 0)
+    ++vectors;
+  return vectors;
+}
 
-// dst[e] = op(a[e], b[e % period]) for n elements, n a multiple of the period.
-template <class T, class Op>
-inline void runPeriod(Op op, char* dst, const char* a, const char* b, int32_t period, int64_t n) {
+template <int Period, class T, bool Stream, class Op>
+ZELM_INLINE int64_t runPeriodVectors(Op op, char* dst, const char* a, const char* window, int64_t n) {
   constexpr int W = laneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
-  // The period repeated until it is a whole number of vectors, at least four.
-  char pattern[(longestPeriod * W + W) * sizeof(T)];
-  int64_t length = period;
-  std::memcpy(pattern, b, static_cast<std::size_t>(period * E));
-  while (length % W != 0 || length < 4 * W) {
-    std::memcpy(pattern + length * E, pattern, static_cast<std::size_t>(length * E));
-    length *= 2;
+  constexpr int vectors = periodVectors<T>(Period);
+  int64_t e = 0;
+  for (; e + vectors * W <= n; e += vectors * W) {
+    ZELM_UNROLL
+    for (int v = 0; v < vectors; ++v) {
+      const int64_t at = (e + v * W) * E;
+      putLanes<Stream>(dst + at, op(loadLanes<T>(a + at), loadLanes<T>(window + v * W % Period * E)));
+    }
   }
-  // Streamed vectors start where dst is aligned, which is somewhere inside the pattern.
+  for (; e + W <= n; e += W)
+    putLanes<Stream>(dst + e * E, op(loadLanes<T>(a + e * E), loadLanes<T>(window + e % Period * E)));
+  return e;
+}
+
+// dst[e] = op(a[e], b[e % Period]) for n elements.
+template <int Period, class T, class Op>
+inline void runPeriod(Op op, char* dst, const char* a, const char* b, int64_t n) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  static_assert(Period >= laneCount<T>);
+  // The period with its first elements once more, so that a vector can be read from any place of it.
+  char window[Period * sizeof(T) + vectorBytes];
   const int64_t lead = elementsToAlignment<T>(dst);
-  const bool stream = n * E >= streamingBytes && lead >= 0 && dst != a;
-  const int64_t phase = stream ? lead : 0;
-  std::memcpy(pattern + length * E, pattern, static_cast<std::size_t>(phase * E));
-  const char* const shifted = pattern + phase * E;
-  runElements<T>(op, dst, a, pattern, 0, phase);
-  int64_t e = phase;
-  for (; e + length <= n; e += length) {
-    if (stream)
-      runVectors<T, true>(op, dst + e * E, a + e * E, shifted, 0, length);
-    else
-      runVectors<T, false>(op, dst + e * E, a + e * E, shifted, 0, length);
-  }
-  if (stream)
+  int64_t done = 0;
+  if (n * E >= streamingBytes && lead >= 0 && dst != a) {
+    // Streamed vectors start where dst is aligned, which is somewhere inside the period.
+    runElements<T>(op, dst, a, b, 0, lead);
+    for (int64_t e = 0; e < Period + laneCount<T>; ++e)
+      storeElement<T>(window + e * E, loadElement<T>(b + (lead + e) % Period * E));
+    done = lead + runPeriodVectors<Period, T, true>(op, dst + lead * E, a + lead * E, window, n - lead);
     _mm_sfence();
-  const int64_t rest = runVectors<T, false>(op, dst + e * E, a + e * E, shifted, 0, n - e);
-  runElements<T>(op, dst + e * E, a + e * E, shifted, rest, n - e);
+  } else {
+    std::memcpy(window, b, Period * sizeof(T));
+    std::memcpy(window + Period * sizeof(T), b, vectorBytes);
+    done = runPeriodVectors<Period, T, false>(op, dst, a, window, n);
+  }
+  for (; done < n; ++done)
+    storeElement<T>(dst + done * E, op(loadElement<T>(a + done * E), loadElement<T>(b + done % Period * E)));
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -204,6 +217,57 @@ ZELM_INLINE void combineFixed(Op op, const D& dst, const A& a, const B& b) {
     combineRegion<1, N, N>(op, dst, a, b, 0, 0);
 }
 
+// Whether a packed object of side N is transposed as a whole rather than in blocks.
+template <class T, int N> constexpr bool transposesWhole = N == 3 || (N == 4 && sizeof(T) == 4 && vectorBytes == 32);
+
+// dst = op(transposition of a, b), packed objects of side N.
+template <int N, class T, class Op> ZELM_INLINE void combineWhole(Op op, char* dst, const char* a, const char* b) {
+  constexpr auto E = static_cast<int>(sizeof(T));
+  constexpr int W = laneCount<T>;
+  if constexpr (N == 4) {
+    auto upper = loadLanes<T>(a);
+    auto lower = loadLanes<T>(a + 8 * E);
+    upper = __builtin_shufflevector(upper, upper, 0, 4, 2, 6, 1, 5, 3, 7);
+    lower = __builtin_shufflevector(lower, lower, 0, 4, 2, 6, 1, 5, 3, 7);
+    const auto first = op(__builtin_shufflevector(upper, lower, 0, 1, 8, 9, 4, 5, 12, 13), loadLanes<T>(b));
+    const auto second = op(__builtin_shufflevector(upper, lower, 2, 3, 10, 11, 6, 7, 14, 15), loadLanes<T>(b + 8 * E));
+    storeLanes(dst, first);
+    storeLanes(dst + 8 * E, second);
+  } else {
+    // Elements in the order 0 3 6 1 4 7 2 5 8.
+    const T last = op(loadElement<T>(a + 8 * E), loadElement<T>(b + 8 * E));
+    if constexpr (W == 8) {
+      const auto v = loadLanes<T>(a);
+      storeLanes(dst, op(__builtin_shufflevector(v, v, 0, 3, 6, 1, 4, 7, 2, 5), loadLanes<T>(b)));
+    } else if constexpr (W == 4) {
+      const auto v0123 = loadLanes<T>(a);
+      const auto v3456 = loadLanes<T>(a + 3 * E);
+      const auto v5678 = loadLanes<T>(a + 5 * E);
+      const auto v6611 = __builtin_shufflevector(v3456, v0123, 3, 3, 5, 5);
+      const auto v4477 = __builtin_shufflevector(v3456, v5678, 1, 1, 6, 6);
+      const auto v2255 = __builtin_shufflevector(v0123, v3456, 2, 2, 6, 6);
+      const auto first = op(__builtin_shufflevector(v0123, v6611, 0, 3, 4, 6), loadLanes<T>(b));
+      const auto second = op(__builtin_shufflevector(v4477, v2255, 0, 2, 4, 6), loadLanes<T>(b + 4 * E));
+      storeLanes(dst, first);
+      storeLanes(dst + 4 * E, second);
+    } else {
+      const auto v01 = loadLanes<T>(a);
+      const auto v23 = loadLanes<T>(a + 2 * E);
+      const auto v45 = loadLanes<T>(a + 4 * E);
+      const auto v67 = loadLanes<T>(a + 6 * E);
+      const auto first = op(__builtin_shufflevector(v01, v23, 0, 3), loadLanes<T>(b));
+      const auto second = op(__builtin_shufflevector(v67, v01, 0, 3), loadLanes<T>(b + 2 * E));
+      const auto third = op(__builtin_shufflevector(v45, v67, 0, 3), loadLanes<T>(b + 4 * E));
+      const auto fourth = op(__builtin_shufflevector(v23, v45, 0, 3), loadLanes<T>(b + 6 * E));
+      storeLanes(dst, first);
+      storeLanes(dst + 2 * E, second);
+      storeLanes(dst + 4 * E, third);
+      storeLanes(dst + 6 * E, fourth);
+    }
+    storeElement(dst + 8 * E, last);
+  }
+}
+
 // One object of any size.
 template <class Op, class D, class A, class B>
 inline void combineGeneral(Op op, const D& dst, const A& a, const B& b, int32_t width, int32_t height) {
@@ -229,6 +293,8 @@ template <class Operand> ZELM_INLINE auto objectOf(const Operand& x, int64_t k, 
 template <class> constexpr bool isUnitStandard = false;
 template <class T> constexpr bool isUnitStandard<Matrix<T, UnitStride>> = true;
 template <class T> constexpr bool isUnitStandard<Matrices<T, UnitStride>> = true;
+template <class> constexpr bool isTransposedUnitStandard = false;
+template <class Operand> constexpr bool isTransposedUnitStandard<Transposed<Operand>> = isUnitStandard<Operand>;
 
 // A single source of width by height elements without gaps, for a batch.
 template <class T, int N> struct LocalMatrix {
@@ -246,44 +312,74 @@ template <class T, int N> struct LocalMatrix {
   }
 };
 
-// Standard and list layout, all objects, side N.
-template <int N, class Op, class A, class B, class D>
-ZELM_INLINE void combineBatchFixed(Op op, const A& src1, const B& src2, const D& dst, int32_t count) {
-  using T = typename D::Element;
-  if constexpr (D::isArray && !B::isArray) {
-    const LocalMatrix<T, N> local(objectOf(src2, 0, N, N));
-    for (int32_t k = 0; k < count; ++k)
-      combineFixed<N>(op, objectOf(dst, k, N, N), objectOf(src1, k, N, N), local.view());
-  } else {
-    for (int32_t k = 0; k < count; ++k)
-      combineFixed<N>(op, objectOf(dst, k, N, N), objectOf(src1, k, N, N), objectOf(src2, k, N, N));
-  }
+template <class Operand> ZELM_INLINE auto bytesOf(const Operand& x) {
+  return reinterpret_cast<Byte<std::remove_pointer_t<decltype(x.pointer)>>*>(x.pointer);
 }
 
-// Standard and list layout. Sources and results without any gaps are one run of elements.
+// Standard and list layout, all objects, side N; src2 is an array, or there is one object.
+template <int N, class Op, class A, class B, class D>
+ZELM_INLINE void combineArraysFixed(Op op, const A& src1, const B& src2, const D& dst, int32_t count) {
+  using T = typename D::Element;
+  if constexpr (transposesWhole<T, N> && isTransposedUnitStandard<A> && isUnitStandard<B> && isUnitStandard<D>) {
+    constexpr int64_t bytes = N * N * static_cast<int>(sizeof(T));
+    if (src1.packed(N, N) && src2.packed(N, N) && dst.packed(N, N)) {
+      for (int32_t k = 0; k < count; ++k)
+        combineWhole<N, T>(op, bytesOf(dst) + k * bytes, bytesOf(src1) + k * bytes, bytesOf(src2) + k * bytes);
+      return;
+    }
+  }
+  for (int32_t k = 0; k < count; ++k)
+    combineFixed<N>(op, objectOf(dst, k, N, N), objectOf(src1, k, N, N), objectOf(src2, k, N, N));
+}
+
+// Standard and list layout, all objects, side N; src2 is one matrix, which is read once.
+template <int N, class Op, class A, class B, class D>
+ZELM_INLINE void combineSingleFixed(Op op, const A& src1, const B& src2, const D& dst, int32_t count) {
+  using T = typename D::Element;
+  [[maybe_unused]] constexpr int64_t bytes = N * N * static_cast<int>(sizeof(T));
+  if constexpr (isUnitStandard<A> && isUnitStandard<B> && isUnitStandard<D>) {
+    if (src1.packed(N, N) && src2.packed(N, N) && dst.packed(N, N)) {
+      runPeriod<N * N, T>(op, bytesOf(dst), bytesOf(src1), bytesOf(src2), static_cast<int64_t>(N * N) * count);
+      return;
+    }
+  }
+  const LocalMatrix<T, N> local(objectOf(src2, 0, N, N));
+  if constexpr (isUnitStandard<A> && isUnitStandard<D> && !isUnitStandard<B>) {
+    if (src1.packed(N, N) && dst.packed(N, N) && count >= laneCount<T>) {
+      runPeriod<N * N, T>(op, bytesOf(dst), bytesOf(src1), local.view().origin, static_cast<int64_t>(N * N) * count);
+      return;
+    }
+  } else if constexpr (transposesWhole<T, N> && isTransposedUnitStandard<A> && isUnitStandard<D>) {
+    if (src1.packed(N, N) && dst.packed(N, N)) {
+      for (int32_t k = 0; k < count; ++k)
+        combineWhole<N, T>(op, bytesOf(dst) + k * bytes, bytesOf(src1) + k * bytes, local.view().origin);
+      return;
+    }
+  }
+  for (int32_t k = 0; k < count; ++k)
+    combineFixed<N>(op, objectOf(dst, k, N, N), objectOf(src1, k, N, N), local.view());
+}
+
+// Standard and list layout.
 template <int... N, class Op, class A, class B, class D>
 ZELM_INLINE ZelStatus combineObjects(Sizes<N...> sizes, Op op, const A& src1, const B& src2, const D& dst,
                                      int32_t width, int32_t height, int32_t count) {
   using T = typename D::Element;
-  if constexpr (isUnitStandard<A> && isUnitStandard<B> && isUnitStandard<D>) {
+  constexpr bool arrays = B::isArray || !D::isArray;
+  // Operands without any gaps are one run of elements.
+  if constexpr (arrays && isUnitStandard<A> && isUnitStandard<B> && isUnitStandard<D>) {
     if (src1.packed(width, height) && src2.packed(width, height) && dst.packed(width, height)) {
-      const int64_t each = static_cast<int64_t>(width) * height;
-      auto* const result = reinterpret_cast<char*>(dst.pointer);
-      const auto* const a = reinterpret_cast<const char*>(src1.pointer);
-      const auto* const b = reinterpret_cast<const char*>(src2.pointer);
-      if constexpr (B::isArray || !D::isArray) {
-        runPair<T>(op, result, a, b, each * count);
-        return zelStatusOk;
-      } else if (each <= longestPeriod && count >= laneCount<T>) {
-        runPeriod<T>(op, result, a, b, static_cast<int32_t>(each), each * count);
-        return zelStatusOk;
-      }
+      runPair<T>(op, bytesOf(dst), bytesOf(src1), bytesOf(src2), static_cast<int64_t>(width) * height * count);
+      return zelStatusOk;
     }
   }
   return forSize(
       sizes, width == height ? width : 0,
       [&](auto side) {
-        combineBatchFixed<side>(op, src1, src2, dst, count);
+        if constexpr (arrays)
+          combineArraysFixed<side>(op, src1, src2, dst, count);
+        else
+          combineSingleFixed<side>(op, src1, src2, dst, count);
         return zelStatusOk;
       },
       [&] {
@@ -320,18 +416,19 @@ ZELM_INLINE void combineNeighbours(Op op, char* dst, const char* a, const char* 
   }
 }
 
-// Pointer layout: a tile of a few hundred objects is walked position by position, so that few streams are open at a
+// Pointer layout: a tile of neighbouring objects is walked position by position, so that few streams are open at a
 // time. Any size needs the same code.
 template <class Op, class A, class B, class D>
 inline ZelStatus combinePositions(Op op, const A& src1, const B& src2, const D& dst, int32_t width, int32_t height,
                                   int32_t count) {
   using T = typename D::Element;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
-  constexpr int64_t tile = 1024 / E;
   const int64_t aStep = src1.objectStride();
   const int64_t bStep = src2.objectStride();
   const int64_t dStep = dst.objectStride();
   const bool neighbours = dStep == E && aStep == E && (bStep == E || !B::isArray);
+  // A tile of neighbours is a kilobyte at each position; one of scattered elements keeps their cache lines at hand.
+  const int64_t tile = neighbours ? 1024 / E : 32;
   for (int64_t k = 0; k < count; k += tile) {
     const int64_t n = count - k < tile ? count - k : tile;
     const auto a = objectOf(src1, k, width, height);
