@@ -1,5 +1,7 @@
 // Sums of matrices.
 #include "../harness/job.h"
+#include "../harness/paths.h"
+#include "../harness/run.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +52,37 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+// Single calls and what they enter first, as plain numbers.
+TEST(Entries, Add) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  struct {
+    const char* member;
+    int32_t width, height, count, src1Stride2;
+    const char* entered;
+  } const calls[] = {
+      {"zelmAdd_mam_32f", 3, 3, 111, 4, "ownzelmAdd_mam_32f"},
+      {"zelmAdd_mam_32f", 3, 3, 111, 8, "ownOMP_zelmAdd_mam_32f"},
+      {"zelmAdd_mam_64f", 3, 3, 111, 8, "ownOMP_zelmAdd_mam_64f"},
+      {"zelmAdd_mam_64f", 3, 3, 110, 16, "ownzelmAdd_mam_64f_S2"},
+      {"zelmAdd_mama_32f_L", 4, 4, 41, 4, "ownzelmAdd_mama_32f_L"},
+      {"zelmAdd_mama_32f_L", 4, 4, 42, 4, "ownOMP_zelmAdd_mama_32f_L"},
+      {"zelmAdd_mama_32f_L", 4, 4, 41, 12, "ownzelmAdd_mama_32f_LS2"},
+      {"zelmAdd_mama_32f_P", 1000, 1000, 1000, 0, "ownzelmAdd_mama_32f_P"},     // 3e9 is negative
+      {"zelmAdd_mama_32f_P", 1000, 1000, 1500, 0, "ownOMP_zelmAdd_mama_32f_P"}, // 4.5e9 is positive again
+  };
+  for (const auto& call : calls) {
+    const Member& m = member(call.member);
+    Sizes sizes = m.square(call.width, call.count);
+    sizes.set("height", call.height);
+    std::vector<Slot> slots = wildSlots(m, sizes);
+    for (size_t i = 0; i < slots.size(); ++i)
+      if (m.arguments[i].name == "src1Stride2")
+        slots[i].integer = call.src1Stride2;
+    EXPECT_EQ(call.entered, probe(m, slots)) << call.member << sizes.text();
+  }
+}
 
 // Packed batches whose result is larger than any cache, with dst at every offset from a vector.
 template <class T, class Call> void huge(int arrays, Call call) {
