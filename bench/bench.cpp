@@ -447,6 +447,7 @@ int main(int argc, char** argv) {
   omp_set_num_threads(1);
   bench::registerAdd();
   bench::registerCholesky();
+  bench::registerLu();
   bench::registerQR();
   benchmark::Initialize(&number, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(number, arguments.data()))

@@ -102,6 +102,7 @@ std::vector<Contender> library(const std::array<const char*, sizeof...(Functions
 // Run by main before the benchmarks, one for each family.
 void registerAdd();
 void registerCholesky();
+void registerLu();
 void registerQR();
 
 } // namespace bench

@@ -1,0 +1,42 @@
+// LU decomposition and solution of packed systems by Eigen's PartialPivLU on fixed sizes.
+#include "alternative.h"
+
+#include <Eigen/LU>
+
+#include <iterator>
+
+namespace {
+
+template <class T, int N> void solve(const bench::Block& b) {
+  using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
+  using Vector = Eigen::Matrix<T, N, 1>;
+  const T* a = bench::source<T>(b, 0);
+  const T* rhs = bench::source<T>(b, 1);
+  T* x = bench::result<T>(b, 3);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k) {
+    const Eigen::PartialPivLU<Matrix> factor{Eigen::Map<const Matrix>(a + k * N * N)};
+    Eigen::Map<Vector>(x + k * N) = factor.solve(Eigen::Map<const Vector>(rhs + k * N));
+  }
+}
+
+using bench::repeat;
+using bench::Role;
+
+// clang-format off
+const bench::Row rows[] = {
+    {"LU/ma/32f/3", "eigen", Role::alternative, repeat<solve<float, 3>>},
+    {"LU/ma/32f/4", "eigen", Role::alternative, repeat<solve<float, 4>>},
+    {"LU/ma/32f/5", "eigen", Role::alternative, repeat<solve<float, 5>>},
+    {"LU/ma/32f/6", "eigen", Role::alternative, repeat<solve<float, 6>>},
+    {"LU/ma/64f/3", "eigen", Role::alternative, repeat<solve<double, 3>>},
+    {"LU/ma/64f/4", "eigen", Role::alternative, repeat<solve<double, 4>>},
+    {"LU/ma/64f/5", "eigen", Role::alternative, repeat<solve<double, 5>>},
+    {"LU/ma/64f/6", "eigen", Role::alternative, repeat<solve<double, 6>>},
+};
+// clang-format on
+
+} // namespace
+
+BENCH_ALTERNATIVES {
+  return {rows, std::size(rows)};
+}
