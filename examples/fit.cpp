@@ -1,6 +1,7 @@
 #include "fit.h"
 #include "check.h"
 #include <algorithm>
+#include <exception>
 #include <limits>
 #include <numeric>
 
@@ -13,18 +14,18 @@ using Matrix6 = std::array<double, 36>;
 // Vertices whose tall matrices are in hand at a time: they stay in the cache between the steps.
 constexpr size_t blockSize = 128;
 
-// The points of `count` places from `first` in their frames, as rows of tall matrices and heights above the tangent
+// The points of a group, or of a part of one, in their frames, as rows of tall matrices and heights above the tangent
 // plane.
-void tallSystems(const Problem& problem, const Problem::Group& group, size_t first, size_t count,
-                 std::vector<Vec3>& local, std::vector<double>& rows, std::vector<double>& heights) {
+void tallSystems(const Problem& problem, const Problem::Group& group, std::vector<Vec3>& local,
+                 std::vector<double>& rows, std::vector<double>& heights) {
   const auto h = int32_t(group.height);
-  const size_t points = count * group.height;
+  const size_t points = group.count * group.height;
   local.resize(std::max(local.size(), points));
   rows.resize(std::max(rows.size(), points * side));
   heights.resize(std::max(heights.size(), points));
   // (points as rows) times transpose(frame)
-  check(zelmMul_mata_64f(&problem.points[group.offset + (first - group.first) * group.height][0], h * 24, 24, 8, 3, h,
-                         &problem.frames[first][0][0], 72, 24, 8, 3, 3, &local[0][0], h * 24, 24, 8, int32_t(count)),
+  check(zelmMul_mata_64f(&problem.points[group.offset][0], h * 24, 24, 8, 3, h, &problem.frames[group.first][0][0], 72,
+                         24, 8, 3, 3, &local[0][0], h * 24, 24, 8, int32_t(group.count)),
         "zelmMul_mata_64f");
   for (size_t i = 0; i < points; ++i) {
     quadricRow(local[i][0], local[i][1], &rows[i * side]);
@@ -32,22 +33,37 @@ void tallSystems(const Problem& problem, const Problem::Group& group, size_t fir
   }
 }
 
+// Blocks are independent of each other, so they are what the threads share here, in one region for all.
 void normalEquations(const Problem& problem, std::vector<Matrix6>& matrices, std::vector<Quadric>& sides) {
-  std::vector<Vec3> local;
-  std::vector<double> rows, heights;
-  for (const Problem::Group& group : problem.groups) {
-    const auto h = int32_t(group.height);
-    for (size_t done = 0; done < group.count; done += blockSize) {
-      const size_t first = group.first + done, count = std::min(blockSize, group.count - done);
-      tallSystems(problem, group, first, count, local, rows, heights);
-      check(zelmMul_tama_64f(rows.data(), h * rowBytes, rowBytes, 8, side, h, rows.data(), h * rowBytes, rowBytes, 8,
-                             side, h, matrices[first].data(), matrixBytes, rowBytes, 8, int32_t(count)),
-            "zelmMul_tama_64f");
-      check(zelmMul_tava_64f(rows.data(), h * rowBytes, rowBytes, 8, side, h, heights.data(), h * 8, 8, h,
-                             sides[first].data(), vectorBytes, 8, int32_t(count)),
-            "zelmMul_tava_64f");
-    }
+  std::vector<Problem::Group> blocks;
+  for (const Problem::Group& group : problem.groups)
+    for (size_t done = 0; done < group.count; done += blockSize)
+      blocks.push_back({group.first + done, std::min(blockSize, group.count - done), group.height,
+                        group.offset + done * group.height});
+  std::exception_ptr error;
+#pragma omp parallel
+  {
+    std::vector<Vec3> local;
+    std::vector<double> rows, heights;
+#pragma omp for schedule(dynamic)
+    for (size_t i = 0; i < blocks.size(); ++i)
+      try {
+        const Problem::Group& block = blocks[i];
+        const auto h = int32_t(block.height), count = int32_t(block.count);
+        tallSystems(problem, block, local, rows, heights);
+        check(zelmMul_tama_64f(rows.data(), h * rowBytes, rowBytes, 8, side, h, rows.data(), h * rowBytes, rowBytes, 8,
+                               side, h, matrices[block.first].data(), matrixBytes, rowBytes, 8, count),
+              "zelmMul_tama_64f");
+        check(zelmMul_tava_64f(rows.data(), h * rowBytes, rowBytes, 8, side, h, heights.data(), h * 8, 8, h,
+                               sides[block.first].data(), vectorBytes, 8, count),
+              "zelmMul_tava_64f");
+      } catch (...) {
+#pragma omp critical
+        error = std::current_exception();
+      }
   }
+  if (error)
+    std::rethrow_exception(error);
 }
 
 ZelStatus decompose(const Matrix6* matrices, Matrix6* factors, size_t count) {
@@ -55,16 +71,14 @@ ZelStatus decompose(const Matrix6* matrices, Matrix6* factors, size_t count) {
                                    8, side, int32_t(count));
 }
 
-// Factorises all matrices in one batch and returns which are not positive definite.
+// Factorises all matrices in one batch, into factors that are zero, and returns which are not positive definite.
 std::vector<size_t> choleskyFactors(const std::vector<Matrix6>& matrices, std::vector<Matrix6>& factors) {
   const size_t count = matrices.size();
   std::vector<size_t> failed;
   // A call stops at the first matrix that fails, on several threads each share at its first, and does not tell which
-  // that is. But the last diagonal element of a finished factor is a reciprocal, so one that is still zero is not
+  // that is. But the last diagonal element of a finished factor is a reciprocal: one that is still zero is not
   // finished.
   const auto finished = [&](size_t k) { return factors[k].back() != 0; };
-  for (Matrix6& factor : factors)
-    factor.back() = 0;
   if (decompose(matrices.data(), factors.data(), count) != zelStatusOk) {
     // The rest goes on in batches that stay on one thread: what fails is the first that is not finished behind the
     // call.
@@ -102,7 +116,8 @@ bool fitByQR(const Problem& problem, size_t place, Quadric& quadric) {
   const auto h = int32_t(group->height);
   std::vector<Vec3> local;
   std::vector<double> rows, heights, buffer(group->height);
-  tallSystems(problem, *group, place, 1, local, rows, heights);
+  tallSystems(problem, {place, 1, group->height, group->offset + (place - group->first) * group->height}, local, rows,
+              heights);
   if (zelmQRDecomp_m_64f(rows.data(), rowBytes, 8, buffer.data(), rows.data(), rowBytes, 8, side, h) != zelStatusOk)
     return false;
   check(zelmQRBackSubst_mv_64f(rows.data(), rowBytes, 8, buffer.data(), heights.data(), 8, quadric.data(), 8, side, h),

@@ -232,7 +232,7 @@ class Surfaces(Case):
         good, bad = bent(OCTAHEDRON, 0.1), OCTAHEDRON
         pattern = [n % 7 in (1, 2, 5) or 100 < n < 140 or n == 0 for n in range(400)]
         models = [(shift(bad if fails else good, n), OCTAHEDRON_FACES) for n, fails in enumerate(pattern)]
-        output = self.fit(joined(*models, sphere(2, 3)))
+        output = self.fit(joined(*models, sphere(2, 3, (-9, 0, 0))))
         self.assertEqual(output.without, 6 * sum(pattern))
         self.assertEqual(output.cholesky, 6 * (400 - sum(pattern)) + 642)
 
