@@ -449,6 +449,7 @@ int main(int argc, char** argv) {
   bench::registerCholesky();
   bench::registerLu();
   bench::registerQR();
+  bench::registerMulMatrices();
   benchmark::Initialize(&number, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(number, arguments.data()))
     return EXIT_FAILURE;

@@ -104,6 +104,7 @@ void registerAdd();
 void registerCholesky();
 void registerLu();
 void registerQR();
+void registerMulMatrices();
 
 } // namespace bench
 

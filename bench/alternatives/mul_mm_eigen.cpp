@@ -1,0 +1,82 @@
+// Products of packed matrices by Eigen: fixed-size maps over the batch, aligned where every matrix of it is.
+#include "alternative.h"
+
+#include <Eigen/Core>
+
+#include <iterator>
+
+namespace {
+
+template <class T, int N> using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
+
+template <class T, int N>
+constexpr int alignment = N* N * sizeof(T) % 32 == 0   ? Eigen::Aligned32
+                          : N* N * sizeof(T) % 16 == 0 ? Eigen::Aligned16
+                                                       : Eigen::Unaligned;
+
+template <class T, int N> using In = Eigen::Map<const Matrix<T, N>, alignment<T, N>>;
+
+template <class T, int N> using Out = Eigen::Map<Matrix<T, N>, alignment<T, N>>;
+
+template <class T, int N> void mama(const bench::Block& b) {
+  const T* src1 = bench::source<T>(b, 0);
+  const T* src2 = bench::source<T>(b, 1);
+  T* dst = bench::result<T>(b, 2);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Out<T, N>(dst + k * N * N).noalias() = In<T, N>(src1 + k * N * N) * In<T, N>(src2 + k * N * N);
+}
+
+template <class T, int N> void mam(const bench::Block& b) {
+  const T* src1 = bench::source<T>(b, 0);
+  const Matrix<T, N> right = In<T, N>(bench::source<T>(b, 1));
+  T* dst = bench::result<T>(b, 2);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Out<T, N>(dst + k * N * N).noalias() = In<T, N>(src1 + k * N * N) * right;
+}
+
+template <class T, int N> void mma(const bench::Block& b) {
+  const Matrix<T, N> left = In<T, N>(bench::source<T>(b, 0));
+  const T* src2 = bench::source<T>(b, 1);
+  T* dst = bench::result<T>(b, 2);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Out<T, N>(dst + k * N * N).noalias() = left * In<T, N>(src2 + k * N * N);
+}
+
+template <class T, int N> void tam(const bench::Block& b) {
+  const T* src1 = bench::source<T>(b, 0);
+  const Matrix<T, N> right = In<T, N>(bench::source<T>(b, 1));
+  T* dst = bench::result<T>(b, 2);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Out<T, N>(dst + k * N * N).noalias() = In<T, N>(src1 + k * N * N).transpose() * right;
+}
+
+using bench::repeat;
+using bench::Role;
+
+// clang-format off
+#define ROW(form, type, pass, T, n) {"Mul/" form "/" type "/" #n, "eigen", Role::alternative, repeat<pass<T, n>>}
+#define SIZES(form, type, pass, T) \
+  ROW(form, type, pass, T, 3), ROW(form, type, pass, T, 4), ROW(form, type, pass, T, 5), ROW(form, type, pass, T, 6)
+#define LARGER(form, type, pass, T) \
+  ROW(form, type, pass, T, 7), ROW(form, type, pass, T, 8), ROW(form, type, pass, T, 12), \
+  ROW(form, type, pass, T, 16), ROW(form, type, pass, T, 24), ROW(form, type, pass, T, 32)
+
+const bench::Row rows[] = {
+    SIZES("mama", "32f", mama, float),
+    SIZES("mama", "64f", mama, double),
+    SIZES("mam",  "32f", mam,  float),
+    SIZES("mam",  "64f", mam,  double),
+    SIZES("mma",  "32f", mma,  float),
+    SIZES("mma",  "64f", mma,  double),
+    SIZES("tam",  "32f", tam,  float),
+    SIZES("tam",  "64f", tam,  double),
+    LARGER("mama", "32f", mama, float),
+    LARGER("mama", "64f", mama, double),
+};
+// clang-format on
+
+} // namespace
+
+BENCH_ALTERNATIVES {
+  return {rows, std::size(rows)};
+}
