@@ -6,7 +6,7 @@
 #pragma once
 
 #include "zelmframe.h"
-#include "zelmtile.h"
+#include "zelmtriples.h"
 
 // clang-format off
 #define MATRIX_VECTOR(V, T, A, B, D)  V##_##A(src1, const T), V##_SIZE(src1Width), V##_SIZE(src1Height), V##_##B(src2, const T), V##_SIZE(src2Len), V##_##D(dst, T)
@@ -124,21 +124,33 @@ struct TailFirst {
 // ---------------------------------------------------------------------------------------------------------------------
 // Arithmetic on tiles
 
-// A stored matrix read through its transposition.
-template <class M> struct TransposedTile {
-  const M& stored;
-  ZELM_INLINE auto operator()(int i, int k) const { return stored(k, i); }
-};
+// Row i of a matrix: of a tile, or of the transposition of a tile.
+template <class L, int N> ZELM_INLINE Tile<L, 1, N> rowOf(const Tile<L, N, N>& matrix, int i) {
+  Tile<L, 1, N> row;
+  ZELM_UNROLL
+  for (int k = 0; k < N; ++k)
+    row(0, k) = matrix(i, k);
+  return row;
+}
+template <class L, int N> struct TransposedTile { const Tile<L, N, N>& stored; };
+template <class L, int N> ZELM_INLINE Tile<L, 1, N> rowOf(const TransposedTile<L, N>& matrix, int i) {
+  Tile<L, 1, N> row;
+  ZELM_UNROLL
+  for (int k = 0; k < N; ++k)
+    row(0, k) = matrix.stored(k, i);
+  return row;
+}
 
 template <class Tree, int N, class L, class M>
 ZELM_INLINE Tile<L, 1, N> multiplyTiles(const M& matrix, const Tile<L, 1, N>& vector) {
   Tile<L, 1, N> result;
   ZELM_UNROLL
   for (int i = 0; i < N; ++i) {
+    const Tile<L, 1, N> row = rowOf(matrix, i);
     L term[N];
     ZELM_UNROLL
     for (int k = 0; k < N; ++k)
-      term[k] = matrix(i, k) * vector(0, k);
+      term[k] = row(0, k) * vector(0, k);
     result(0, i) = Tree::of(i, term);
   }
   return result;
@@ -154,6 +166,75 @@ struct NoAddend {
 template <class> constexpr bool isAddend = true;
 template <> constexpr bool isAddend<const NoAddend> = false;
 template <> constexpr bool isAddend<NoAddend> = false;
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Objects of a known number of elements, one behind the other without gaps
+
+template <class T, int Elements> struct PackedObjects {
+  using Element = std::remove_const_t<T>;
+  static constexpr bool isArray = true;
+  static constexpr int64_t bytes = Elements * static_cast<int64_t>(sizeof(T));
+  Byte<T>* first;
+
+  ZELM_INLINE Byte<T>* address(int64_t k) const { return first + k * bytes; }
+  // Of objects k, k + 1, ...
+  ZELM_INLINE auto addresses(int64_t k) const {
+    ObjectAddresses<Element, Byte<T>> objects;
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<Element>; ++w)
+      objects.of[w] = address(k) + w * bytes;
+    return objects;
+  }
+};
+
+template <class> constexpr bool isPackedObjects = false;
+template <class T, int Elements> constexpr bool isPackedObjects<PackedObjects<T, Elements>> = true;
+
+// Packed matrices, one a lane, that are read row by row.
+template <class T, int N> struct PackedRows { ObjectAddresses<T, const char> objects; };
+template <class T, int N> ZELM_INLINE Tile<Lanes<T>, 1, N> rowOf(const PackedRows<T, N>& matrix, int i) {
+  constexpr int Q = chunkElements<T>;
+  Tile<Lanes<T>, 1, N> row;
+  ZELM_UNROLL
+  for (int k = 0; k < N; k += Q) {
+    // A chunk may reach into the next row, but not beyond the object.
+    const int from = i * N + k + Q <= N * N ? i * N + k : N * N - Q;
+    Lanes<T> chunk[Q];
+    loadChunk<T>(matrix.objects, from * static_cast<int64_t>(sizeof(T)), chunk);
+    ZELM_UNROLL
+    for (int q = 0; q < Q; ++q) {
+      const int e = from + q - i * N;
+      if (e >= k && e < N)
+        row(0, e) = chunk[q];
+    }
+  }
+  return row;
+}
+
+// Packed matrices, one a lane, as a whole.
+template <int N, class T, int Elements>
+ZELM_INLINE auto loadPackedMatrices(const PackedObjects<const T, Elements>& x, int64_t k) {
+  Tile<Lanes<T>, N, N> tile;
+  loadRun<N * N, T>(x.addresses(k), 0, tile.element);
+  return tile;
+}
+
+template <class T, int N> ZELM_INLINE auto loadPackedVectors(const PackedObjects<const T, N>& x, int64_t k) {
+  if constexpr (N == 3) {
+    return loadTriples<T>(x.address(k));
+  } else {
+    Tile<Lanes<T>, 1, N> tile;
+    loadRun<N, T>(x.addresses(k), 0, tile.element);
+    return tile;
+  }
+}
+template <class T, int N>
+ZELM_INLINE void storePackedVectors(const PackedObjects<T, N>& x, int64_t k, const Tile<Lanes<T>, 1, N>& tile) {
+  if constexpr (N == 3)
+    storeTriples<false>(x.address(k), tile);
+  else
+    storeRun<N, T>(x.addresses(k), 0, tile.element);
+}
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Operands of side N in lanes of type L: one held for the whole batch, or object by object, block by block
@@ -180,10 +261,15 @@ ZELM_INLINE void storeVectorTile(const View& x, const Tile<typename View::Elemen
     x.store(j, tile(0, j));
 }
 
-// The matrix operand as it is stored; `Lanes` objects at a time from k on, or one.
-template <class L, Lie lie, int N, class Operand> ZELM_INLINE auto loadStored(const Operand& x, int64_t k) {
+// The matrix operand as it is stored; as many objects from k on as L is wide.
+template <class L, Lie lie, int N, bool transposed, class Operand>
+ZELM_INLINE auto loadStored(const Operand& x, int64_t k) {
   if constexpr (LaneTraits<L>::width == 1)
     return loadTile<N, N>(x.object(k, N));
+  else if constexpr (isPackedObjects<Operand> && !transposed)
+    return PackedRows<typename Operand::Element, N>{x.addresses(k)};
+  else if constexpr (isPackedObjects<Operand>)
+    return loadPackedMatrices<N>(x, k);
   else if constexpr (Operand::isArray)
     return loadTiles<lie, N, N>(x, k);
   else
@@ -192,6 +278,8 @@ template <class L, Lie lie, int N, class Operand> ZELM_INLINE auto loadStored(co
 template <class L, Lie lie, int N, class Operand> ZELM_INLINE auto loadVector(const Operand& x, int64_t k) {
   if constexpr (LaneTraits<L>::width == 1)
     return loadVectorTile<N>(x.object(k));
+  else if constexpr (isPackedObjects<Operand>)
+    return loadPackedVectors(x, k);
   else if constexpr (Operand::isArray)
     return loadVectorTiles<lie, N>(x, k);
   else
@@ -201,6 +289,8 @@ template <class L, Lie lie, int N, class Operand>
 ZELM_INLINE void storeVector(const Operand& x, int64_t k, const Tile<L, 1, N>& tile) {
   if constexpr (LaneTraits<L>::width == 1)
     storeVectorTile<N>(x.object(k), tile);
+  else if constexpr (isPackedObjects<Operand>)
+    storePackedVectors(x, k, tile);
   else
     storeVectorTiles<lie, N>(x, k, tile);
 }
@@ -217,7 +307,7 @@ template <class Tree, bool transposed, class L, int N, class M, class V, class W
 ZELM_INLINE Tile<L, 1, N> multiplyAdd(const M& matrix, const V& vector, const W& addend) {
   Tile<L, 1, N> result;
   if constexpr (transposed)
-    result = multiplyTiles<Tree, N, L>(TransposedTile<M>{matrix}, vector);
+    result = multiplyTiles<Tree, N, L>(TransposedTile<L, N>{matrix}, vector);
   else
     result = multiplyTiles<Tree, N, L>(matrix, vector);
   if constexpr (isAddend<W>)
@@ -228,12 +318,10 @@ ZELM_INLINE Tile<L, 1, N> multiplyAdd(const M& matrix, const V& vector, const W&
 }
 
 // Objects first .. end-1, one a step for scalar L, else as many as L is wide. Returns the first object not done.
-template <class Tree, class L, Lie lie, int N, class A, class B, class C, class D>
-ZELM_INLINE int64_t multiplyStraight(const A& src1, const B& src2, const C& src3, const D& dst, int64_t first,
+template <class Tree, class L, Lie lie, int N, bool transposed, class A, class B, class C, class D>
+ZELM_INLINE int64_t multiplyStraight(const A& stored, const B& src2, const C& src3, const D& dst, int64_t first,
                                      int64_t end) {
   constexpr int64_t width = LaneTraits<L>::width;
-  constexpr bool transposed = isTransposed<A>;
-  const auto& stored = asStored(src1);
   const auto addendOf = [&](int64_t k) {
     if constexpr (isAddend<C>)
       return loadVector<L, lie, N>(src3, k);
@@ -242,7 +330,7 @@ ZELM_INLINE int64_t multiplyStraight(const A& src1, const B& src2, const C& src3
   };
   int64_t k = first;
   if constexpr (!A::isArray) {
-    const auto matrix = loadStored<L, lie, N>(stored, 0);
+    const auto matrix = loadStored<L, lie, N, transposed>(stored, 0);
     for (; k + width <= end; k += width)
       storeVector<L, lie, N>(dst, k,
                              multiplyAdd<Tree, transposed, L, N>(matrix, loadVector<L, lie, N>(src2, k), addendOf(k)));
@@ -250,13 +338,164 @@ ZELM_INLINE int64_t multiplyStraight(const A& src1, const B& src2, const C& src3
     const auto vector = loadVector<L, lie, N>(src2, 0);
     for (; k + width <= end; k += width)
       storeVector<L, lie, N>(
-          dst, k, multiplyAdd<Tree, transposed, L, N>(loadStored<L, lie, N>(stored, k), vector, addendOf(k)));
+          dst, k,
+          multiplyAdd<Tree, transposed, L, N>(loadStored<L, lie, N, transposed>(stored, k), vector, addendOf(k)));
   } else {
     for (; k + width <= end; k += width)
       storeVector<L, lie, N>(dst, k,
-                             multiplyAdd<Tree, transposed, L, N>(loadStored<L, lie, N>(stored, k),
+                             multiplyAdd<Tree, transposed, L, N>(loadStored<L, lie, N, transposed>(stored, k),
                                                                  loadVector<L, lie, N>(src2, k), addendOf(k)));
   }
+  return k;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Packed objects of side 4. A vector of four fits lanes as it lies, one object a vector or two, so nothing is
+// transposed but the sums themselves.
+
+// Element j of each group of four lanes, in all lanes of the group.
+template <int j> ZELM_INLINE Lanes<float> spread(const char* vectors) {
+  const auto x = loadLanes<float>(vectors);
+  return pick<j, j, j, j>(x, x);
+}
+template <int j, class T> ZELM_INLINE Lanes<T> spreadOf(const char* vectors) {
+  if constexpr (sizeof(T) == 4)
+    return spread<j>(vectors);
+  else
+    return splat<Lanes<T>>(loadElement<T>(vectors + j * sizeof(T)));
+}
+
+template <class T> constexpr bool fillsVectors = laneCount<T> >= 4;
+
+// The single operand's vector of four, once for each group of lanes.
+template <class T, class View> ZELM_INLINE Lanes<T> repeatFour(const View& element) {
+  Lanes<T> lanes;
+  ZELM_UNROLL
+  for (int w = 0; w < laneCount<T>; ++w)
+    lanes[w] = element(w % 4);
+  return lanes;
+}
+
+// A single matrix held as columns: a lane is a result element.
+template <class Tree, bool transposed, class A, class T, class C>
+ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T, 4>& src2, const C& src3,
+                                    const PackedObjects<T, 4>& dst, int64_t end) {
+  using L = Lanes<T>;
+  constexpr int64_t width = laneCount<T> / 4;
+  const auto matrix = stored.object(0, 4);
+  L column[4];
+  ZELM_UNROLL
+  for (int j = 0; j < 4; ++j)
+    column[j] = repeatFour<T>([&](int i) { return transposed ? matrix.load(j, i) : matrix.load(i, j); });
+  L held{};
+  if constexpr (isAddend<C> && !C::isArray)
+    held = repeatFour<T>([&](int i) { return src3.object(0).load(i); });
+  int64_t k = 0;
+  for (; k + width <= end; k += width) {
+    const char* const x = src2.address(k);
+    const L term[4] = {column[0] * spreadOf<0, T>(x), column[1] * spreadOf<1, T>(x), column[2] * spreadOf<2, T>(x),
+                       column[3] * spreadOf<3, T>(x)};
+    L sum = Tree::of(0, term);
+    if constexpr (isAddend<C> && C::isArray)
+      sum = sum + loadLanes<T>(src3.address(k));
+    else if constexpr (isAddend<C>)
+      sum = sum + held;
+    storeLanes(dst.address(k), sum);
+  }
+  return k;
+}
+
+// The sums of four rows whose products lie along the lanes. Each step adds the pairs that the tree adds, and halves
+// what is left.
+template <class Tree, class T> constexpr bool sumsAlongRows = false;
+template <> constexpr bool sumsAlongRows<EvenOdd, float> = true;
+template <> constexpr bool sumsAlongRows<Pairs64, double> = true;
+
+#ifdef __AVX2__
+// Two objects: x and y are their vectors, each in both halves.
+ZELM_INLINE Lanes<float> evenAndOdd(const char* matrix, Lanes<float> x) {
+  const Lanes<float> p01 = loadLanes<float>(matrix) * x;
+  const Lanes<float> p23 = loadLanes<float>(matrix + 32) * x;
+  return pick<0, 1, 4, 5>(p01, p23) + pick<2, 3, 6, 7>(p01, p23); // rows 0 2 | 1 3: t0 + t2, t1 + t3 of each
+}
+ZELM_INLINE void sumRows(const char* matrices, const Lanes<float>& x, const Lanes<float>& y, char* dst) {
+  const auto s = evenAndOdd(matrices, x);
+  const auto t = evenAndOdd(matrices + 64, y);
+  const auto sums = pick<0, 2, 4, 6>(s, t) + pick<1, 3, 5, 7>(s, t); // rows 0 2 0 2 | 1 3 1 3
+  storeLanes(dst, __builtin_shufflevector(sums, sums, 0, 4, 1, 5, 2, 6, 3, 7));
+}
+ZELM_INLINE Lanes<double> adjacent(const char* rows, const Lanes<double>& x) {
+  const Lanes<double> p = loadLanes<double>(rows) * x;
+  const Lanes<double> q = loadLanes<double>(rows + 32) * x;
+  return pick<0, 2>(p, q) + pick<1, 3>(p, q); // t0 + t1 of both rows | t2 + t3
+}
+ZELM_INLINE void sumRows(const char* matrix, const Lanes<double>& x, char* dst) {
+  const auto s = adjacent(matrix, x);
+  const auto t = adjacent(matrix + 64, x);
+  storeLanes(dst, __builtin_shufflevector(s, t, 0, 1, 4, 5) + __builtin_shufflevector(s, t, 2, 3, 6, 7));
+}
+#else
+ZELM_INLINE Lanes<float> evenAndOdd(const char* rows, Lanes<float> x) {
+  const Lanes<float> p = loadLanes<float>(rows) * x;
+  const Lanes<float> q = loadLanes<float>(rows + 16) * x;
+  return pick<0, 1, 4, 5>(p, q) + pick<2, 3, 6, 7>(p, q); // t0 + t2, t1 + t3 of each row
+}
+ZELM_INLINE void sumRows(const char* matrix, const Lanes<float>& x, char* dst) {
+  const auto s = evenAndOdd(matrix, x);
+  const auto t = evenAndOdd(matrix + 32, x);
+  storeLanes(dst, pick<0, 2, 4, 6>(s, t) + pick<1, 3, 5, 7>(s, t));
+}
+// Two rows, half of their terms.
+ZELM_INLINE Lanes<double> adjacent(const char* rows, const Lanes<double>& x) {
+  const Lanes<double> p = loadLanes<double>(rows) * x;
+  const Lanes<double> q = loadLanes<double>(rows + 32) * x;
+  return pick<0, 2>(p, q) + pick<1, 3>(p, q);
+}
+ZELM_INLINE void sumRows(const char* matrix, const Lanes<double>& x, const Lanes<double>& y, char* dst) {
+  storeLanes(dst, adjacent(matrix, x) + adjacent(matrix + 16, y));
+  storeLanes(dst + 16, adjacent(matrix + 64, x) + adjacent(matrix + 80, y));
+}
+#endif
+
+// Array operands give a vector object by object, single ones the same each time.
+template <class B> ZELM_INLINE const char* vectorOf(const B& src2, int64_t k, const char* held) {
+  if constexpr (B::isArray)
+    return src2.address(k);
+  else
+    return held;
+}
+
+// Matrices that differ: a lane is a term. Sums Tree::of, whatever the tree.
+template <class T, class B>
+ZELM_INLINE int64_t multiplyRows(const PackedObjects<const T, 16>& stored, const B& src2,
+                                 const PackedObjects<T, 4>& dst, int64_t end) {
+  T single[4] = {};
+  if constexpr (!B::isArray)
+    for (int j = 0; j < 4; ++j)
+      single[j] = src2.object(0).load(j);
+  const auto* const held = reinterpret_cast<const char*>(single);
+  int64_t k = 0;
+#ifdef __AVX2__
+  if constexpr (sizeof(T) == 4) {
+    const auto twice = [](const char* x) {
+      const auto half = loadLanes<T, 4>(x);
+      return joinHalves(half, half);
+    };
+    for (; k + 2 <= end; k += 2)
+      sumRows(stored.address(k), twice(vectorOf(src2, k, held)), twice(vectorOf(src2, k + 1, held)), dst.address(k));
+  } else {
+    for (; k < end; ++k)
+      sumRows(stored.address(k), loadLanes<T>(vectorOf(src2, k, held)), dst.address(k));
+  }
+#else
+  for (; k < end; ++k) {
+    const char* const x = vectorOf(src2, k, held);
+    if constexpr (sizeof(T) == 4)
+      sumRows(stored.address(k), loadLanes<T>(x), dst.address(k));
+    else
+      sumRows(stored.address(k), loadLanes<T>(x), loadLanes<T>(x + 16), dst.address(k));
+  }
+#endif
   return k;
 }
 
@@ -299,18 +538,42 @@ template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
     return false;
 }
 
+// An operand whose objects are known to be packed, with that knowledge in its type; single operands stay as they are.
+template <int Elements, class Operand> ZELM_INLINE auto asPacked(const Operand& x) {
+  if constexpr (Operand::isArray) {
+    using T = std::remove_pointer_t<decltype(x.pointer)>;
+    return PackedObjects<T, Elements>{reinterpret_cast<Byte<T>*>(x.pointer)};
+  } else {
+    return x;
+  }
+}
+
+template <class Tree, int N, bool transposed, class A, class B, class C, class D>
+ZELM_INLINE int64_t multiplyPacked(const A& stored, const B& src2, const C& src3, const D& dst, int64_t count) {
+  using T = typename D::Element;
+  if constexpr (N == 4 && !A::isArray && fillsVectors<T>)
+    return multiplyColumns<Tree, transposed>(stored, src2, src3, dst, count);
+  else if constexpr (N == 4 && A::isArray && !transposed && sumsAlongRows<Tree, T>)
+    return multiplyRows(stored, src2, dst, count);
+  else
+    return multiplyStraight<Tree, Lanes<T>, Lie::Packed, N, transposed>(stored, src2, src3, dst, 0, count);
+}
+
 template <class Tree, int N, class A, class B, class C, class D>
 inline void multiplySide(const A& src1, const B& src2, const C& src3, const D& dst, int32_t count) {
   using T = typename D::Element;
+  constexpr bool transposed = isTransposed<A>;
+  const auto& stored = asStored(src1);
   int64_t k = 0;
   if constexpr (isPackable<D>) {
     if (canPack(src1, N) && canPack(src2, N) && canPack(src3, N) && canPack(dst, N))
-      k = multiplyStraight<Tree, Lanes<T>, Lie::Packed, N>(src1, src2, src3, dst, 0, count);
+      k = multiplyPacked<Tree, N, transposed>(asPacked<N * N>(stored), asPacked<N>(src2), asPacked<N>(src3),
+                                              asPacked<N>(dst), count);
   } else if constexpr (isInterleaved<D>) {
     if (areNeighbours(src1) && areNeighbours(src2) && areNeighbours(src3) && areNeighbours(dst))
-      k = multiplyStraight<Tree, Lanes<T>, Lie::Neighbours, N>(src1, src2, src3, dst, 0, count);
+      k = multiplyStraight<Tree, Lanes<T>, Lie::Neighbours, N, transposed>(stored, src2, src3, dst, 0, count);
   }
-  multiplyStraight<Tree, T, Lie::Elements, N>(src1, src2, src3, dst, k, count);
+  multiplyStraight<Tree, T, Lie::Elements, N, transposed>(stored, src2, src3, dst, k, count);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
