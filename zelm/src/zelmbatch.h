@@ -18,8 +18,17 @@ template <> struct LaneInteger<float> { using type = int32_t; };
 template <> struct LaneInteger<double> { using type = int32_t; };
 template <class L> using IntegerOf = typename LaneInteger<L>::type;
 
+// `choose` is what a comparison gives. The compilers would compare it with zero once more for a ?: of their own.
 template <class L> ZELM_INLINE L select(IntegerOf<L> choose, L yes, L no) {
-  return choose ? yes : no;
+#ifdef __AVX2__
+  if constexpr (sizeof(ElementOf<L>) == 4)
+    return _mm256_blendv_ps(no, yes, reinterpret_cast<__m256>(choose));
+  else
+    return _mm256_blendv_pd(no, yes, reinterpret_cast<__m256d>(choose));
+#else
+  using I = IntegerOf<L>;
+  return reinterpret_cast<L>((reinterpret_cast<I>(yes) & choose) | (reinterpret_cast<I>(no) & ~choose));
+#endif
 }
 
 // The magnitude: the sign bit cleared, NaN included.
@@ -37,32 +46,39 @@ template <class L> ZELM_INLINE L magnitude(L x) {
 // ---------------------------------------------------------------------------------------------------------------------
 // Objects whose rows lie together
 
-ZELM_INLINE int64_t objectInLane(int64_t k, int w, int64_t count) {
-  return k + w < count ? k + w : count - 1;
+// body(w, object) for the lanes of the block that starts at object k.
+template <class T, class Body> ZELM_INLINE void forLanes(int64_t k, int64_t count, const Body& body) {
+  constexpr int W = laneCount<T>;
+  if (k + W <= count) {
+    ZELM_UNROLL
+    for (int w = 0; w < W; ++w)
+      body(w, k + w);
+  } else {
+    for (int w = 0; w < W; ++w)
+      body(w, k + w < count ? k + w : count - 1);
+  }
 }
 
-// The first element of objects k, k + 1, ...: matrices, vectors, and plain arrays of `each` elements an object.
-template <class Operand> ZELM_INLINE auto matrixAddresses(const Operand& x, int64_t k, int64_t count) {
+// The first element of objects k, k + 1, ...: matrices, vectors, and plain arrays of `each` elements an object. Calls
+// of their own: inlined into every size of every kernel they would be larger than all the arithmetic.
+template <class Operand> __attribute__((noinline)) auto matrixAddresses(const Operand& x, int64_t k, int64_t count) {
   using T = typename Operand::Element;
   using C = std::remove_pointer_t<decltype(x.object(0, 0).address(0, 0))>;
   ObjectAddresses<T, C> addresses;
-  for (int w = 0; w < laneCount<T>; ++w)
-    addresses.of[w] = x.object(objectInLane(k, w, count), 0).address(0, 0);
+  forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.object(object, 0).address(0, 0); });
   return addresses;
 }
-template <class Operand> ZELM_INLINE auto vectorAddresses(const Operand& x, int64_t k, int64_t count) {
+template <class Operand> __attribute__((noinline)) auto vectorAddresses(const Operand& x, int64_t k, int64_t count) {
   using T = typename Operand::Element;
   using C = std::remove_pointer_t<decltype(x.object(0).address(0))>;
   ObjectAddresses<T, C> addresses;
-  for (int w = 0; w < laneCount<T>; ++w)
-    addresses.of[w] = x.object(objectInLane(k, w, count)).address(0);
+  forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.object(object).address(0); });
   return addresses;
 }
 template <class T, class I> struct PlainAddresses { I* of[laneCount<T>]; };
-template <class T, class I> ZELM_INLINE auto plainAddresses(const Plain<I>& x, int64_t k, int64_t count) {
+template <class T, class I> __attribute__((noinline)) auto plainAddresses(const Plain<I>& x, int64_t k, int64_t count) {
   PlainAddresses<T, I> addresses;
-  for (int w = 0; w < laneCount<T>; ++w)
-    addresses.of[w] = x.pointer + objectInLane(k, w, count) * x.each;
+  forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.pointer + object * x.each; });
   return addresses;
 }
 
@@ -142,11 +158,10 @@ template <class T> ZELM_INLINE std::intptr_t objectOffset(const VectorsP<T>& x, 
   return x.offset + k * x.stride0;
 }
 
-template <class Operand> ZELM_INLINE auto objectOffsets(const Operand& x, int64_t k, int64_t count) {
+template <class Operand> __attribute__((noinline)) auto objectOffsets(const Operand& x, int64_t k, int64_t count) {
   using T = typename Operand::Element;
   ObjectOffsets<T> offsets;
-  for (int w = 0; w < laneCount<T>; ++w)
-    offsets.of[w] = objectOffset(x, objectInLane(k, w, count));
+  forLanes<T>(k, count, [&](int w, int64_t object) { offsets.of[w] = objectOffset(x, object); });
   return offsets;
 }
 

@@ -103,12 +103,15 @@ ZELM_INLINE void substituteOne(const Factors<T, N>& f, const int32_t* p, const B
 // ---------------------------------------------------------------------------------------------------------------------
 // One matrix, a block of right-hand sides
 
-template <int N, class T> ZELM_INLINE Tile<Lanes<T>, 1, N> permuted(const Tile<Lanes<T>, 1, N>& b, const int32_t* p) {
+template <int N, class T>
+__attribute__((noinline)) void substituteBlock(const Factors<Lanes<T>, N>& f, const int32_t* p,
+                                               Tile<Lanes<T>, 1, N>& b) {
   Tile<Lanes<T>, 1, N> x;
   ZELM_UNROLL
   for (int i = 0; i < N; ++i)
     x(0, i) = b(0, p[i]);
-  return x;
+  substitute(f, x);
+  b = x;
 }
 
 template <class T, int N> ZELM_INLINE void spread(const Factors<T, N>& f, Factors<Lanes<T>, N>& lanes) {
@@ -134,18 +137,16 @@ inline void substituteVectors(const Factors<typename D::Element, N>& f, const in
   if constexpr (View::unitRows) {
     for (int64_t k = 0; k < count; k += W) {
       loadRun<N, T>(vectorAddresses(src2, k, count), 0, b.element);
-      Tile<Lanes<T>, 1, N> x = permuted<N, T>(b, p);
-      substitute(lanes, x);
-      storeRun<N, T>(vectorAddresses(dst, k, count), 0, x.element);
+      substituteBlock<N, T>(lanes, p, b);
+      storeRun<N, T>(vectorAddresses(dst, k, count), 0, b.element);
     }
   } else {
     const auto from = vectorPositions<N>(src2);
     const auto to = vectorPositions<N>(dst);
     for (int64_t k = 0; k < count; k += W) {
       loadElements<T>(from.of, N, objectOffsets(src2, k, count), b.element);
-      Tile<Lanes<T>, 1, N> x = permuted<N, T>(b, p);
-      substitute(lanes, x);
-      storeElements<T>(to.of, N, objectOffsets(dst, k, count), x.element);
+      substituteBlock<N, T>(lanes, p, b);
+      storeElements<T>(to.of, N, objectOffsets(dst, k, count), b.element);
     }
   }
 }
@@ -197,29 +198,37 @@ __attribute__((noinline)) void substituteElements(const Positions<N * N>& src1Po
                                                   const PlainAddresses<T, const int32_t>& index,
                                                   const Positions<N>& src2Positions, const ObjectOffsets<T>& src2,
                                                   const Positions<N>& dstPositions, const ObjectOffsets<T>& dst) {
-  using Integers = IntegerOf<Lanes<T>>;
-  Tile<Lanes<T>, N, N> a;
-  Tile<Lanes<T>, 1, N> b;
-  loadElements<T>(src1Positions.of, N * N, src1, a.element);
-  loadElements<T>(src2Positions.of, N, src2, b.element);
-  Integers p[N];
-  ZELM_UNROLL
-  for (int i = 0; i < N; ++i)
-    ZELM_UNROLL
-  for (int w = 0; w < laneCount<T>; ++w)
-    p[i][w] = index.of[w][i];
   Factors<Lanes<T>, N> f;
-  orderRows(a, p, f.a);
-  Tile<Lanes<T>, N, 1> column;
-  Tile<Lanes<T>, N, 1> ordered;
-  ZELM_UNROLL
-  for (int i = 0; i < N; ++i)
-    column(i, 0) = b(0, i);
-  orderRows(column, p, ordered);
   Tile<Lanes<T>, 1, N> x;
-  ZELM_UNROLL
-  for (int i = 0; i < N; ++i)
-    x(0, i) = ordered(i, 0);
+  if constexpr (laneCount<T> == 2) {
+    // Fewer loads of single elements than choices among all rows.
+    for (int i = 0; i < N; ++i) {
+      for (int j = 0; j < N; ++j)
+        f.a(i, j) = gatherLanes<T>([&](int w) ZELM_BODY {
+          return reinterpret_cast<const char*>(src1Positions.of[index.of[w][i] * N + j] + src1.of[w]);
+        });
+      x(0, i) = gatherLanes<T>([&](int w) ZELM_BODY {
+        return reinterpret_cast<const char*>(src2Positions.of[index.of[w][i]] + src2.of[w]);
+      });
+    }
+  } else {
+    Tile<Lanes<T>, N, N> a;
+    Tile<Lanes<T>, N, 1> b;
+    Tile<Lanes<T>, N, 1> ordered;
+    loadElements<T>(src1Positions.of, N * N, src1, a.element);
+    loadElements<T>(src2Positions.of, N, src2, b.element);
+    IntegerOf<Lanes<T>> p[N];
+    ZELM_UNROLL
+    for (int i = 0; i < N; ++i)
+      ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      p[i][w] = index.of[w][i];
+    orderRows(a, p, f.a);
+    orderRows(b, p, ordered);
+    ZELM_UNROLL
+    for (int i = 0; i < N; ++i)
+      x(0, i) = ordered(i, 0);
+  }
   takeReciprocals(f);
   substitute(f, x);
   storeElements<T>(dstPositions.of, N, dst, x.element);

@@ -73,45 +73,44 @@ inline ZelStatus decomposeLoop(InDst, const S& source, int32_t* p, const D& resu
 // ---------------------------------------------------------------------------------------------------------------------
 // Sides 3 to 6: rows in the order of the pivots, in a tile of any lane type
 
-// Exchanges row K with the row of the largest magnitude in column K; the first one wins among equals, and a NaN neither
-// replaces nor is replaced. Returns that magnitude.
-template <int K, class T, int N>
-ZELM_INLINE std::enable_if_t<std::is_floating_point_v<T>, T> exchange(Tile<T, N, N>& a, int32_t (&p)[N]) {
+// The exchange of row K with the row of the largest magnitude in column K, of one object. The first one wins among
+// equals, and a NaN neither replaces nor is replaced.
+template <class T, int N, int K> struct Exchange {
   int best = K;
-  T largest = magnitude(a(K, K));
-  ZELM_UNROLL
-  for (int i = K + 1; i < N; ++i)
-    if (const T candidate = magnitude(a(i, K)); candidate > largest) {
-      largest = candidate;
-      best = i;
-    }
-  std::swap(p[K], p[best]);
-  ZELM_UNROLL
-  for (int j = 0; j < N; ++j)
-    std::swap(a(K, j), a(best, j));
-  return largest;
-}
+  T largest;
+  ZELM_INLINE explicit Exchange(const Tile<T, N, N>& a) : largest(magnitude(a(K, K))) {
+    ZELM_UNROLL
+    for (int i = K + 1; i < N; ++i)
+      if (const T candidate = magnitude(a(i, K)); candidate > largest) {
+        largest = candidate;
+        best = i;
+      }
+  }
+  ZELM_INLINE void column(Tile<T, N, N>& a, int j) const { std::swap(a(K, j), a(best, j)); }
+  ZELM_INLINE void places(int32_t (&p)[N]) const { std::swap(p[K], p[best]); }
+};
 
 // The same in every lane. A lane exchanges with the last of the rows that replaced the best so far.
-template <int K, class L, int N>
-ZELM_INLINE std::enable_if_t<!std::is_floating_point_v<L>, L> exchange(Tile<L, N, N>& a, IntegerOf<L> (&p)[N]) {
-  IntegerOf<L> best[N];
-  L largest = magnitude(a(K, K));
-  ZELM_UNROLL
-  for (int i = K + 1; i < N; ++i) {
-    const L candidate = magnitude(a(i, K));
-    best[i] = candidate > largest;
-    largest = candidate > largest ? candidate : largest;
+template <class L, int N, int K> struct LanesExchange {
+  using Integers = IntegerOf<L>;
+  Integers best[N];
+  L largest;
+  ZELM_INLINE explicit LanesExchange(const Tile<L, N, N>& a) : largest(magnitude(a(K, K))) {
+    ZELM_UNROLL
+    for (int i = K + 1; i < N; ++i) {
+      const L candidate = magnitude(a(i, K));
+      best[i] = candidate > largest;
+      largest = candidate > largest ? candidate : largest;
+    }
+    Integers replaced = best[N - 1];
+    ZELM_UNROLL
+    for (int i = N - 2; i > K; --i) {
+      const Integers replaces = best[i];
+      best[i] = replaces & ~replaced;
+      replaced |= replaces;
+    }
   }
-  IntegerOf<L> replaced{};
-  ZELM_UNROLL
-  for (int i = N - 1; i > K; --i) {
-    const IntegerOf<L> replaces = best[i];
-    best[i] = replaces & ~replaced;
-    replaced |= replaces;
-  }
-  ZELM_UNROLL
-  for (int j = 0; j < N; ++j) {
+  ZELM_INLINE void column(Tile<L, N, N>& a, int j) const {
     const L top = a(K, j);
     ZELM_UNROLL
     for (int i = K + 1; i < N; ++i) {
@@ -119,43 +118,53 @@ ZELM_INLINE std::enable_if_t<!std::is_floating_point_v<L>, L> exchange(Tile<L, N
       a(i, j) = select<L>(best[i], top, a(i, j));
     }
   }
-  const IntegerOf<L> place = p[K];
-  ZELM_UNROLL
-  for (int i = K + 1; i < N; ++i) {
-    p[K] = best[i] ? p[i] : p[K];
-    p[i] = best[i] ? place : p[i];
-  }
-  return largest;
-}
-
-// Steps K to the last. Returns the number of steps that passed; of a block, N if all passed in all lanes.
-template <int K, class L, int N>
-ZELM_INLINE int eliminate(Tile<L, N, N>& a, IntegerOf<L> (&p)[N], IntegerOf<L> singular) {
-  using T = ElementOf<L>;
-  L largest;
-  if constexpr (K < N - 1)
-    largest = exchange<K>(a, p);
-  else
-    largest = magnitude(a(K, K));
-  if constexpr (LaneTraits<L>::width > 1)
-    singular |= splat<L>(fixedLimit<T>) > largest;
-  else if (fixedLimit<T> > largest)
-    return K;
-  if constexpr (K < N - 1) {
-    const L reciprocal = splat<L>(T(1)) / a(K, K);
+  ZELM_INLINE void places(Integers (&p)[N]) const {
+    const Integers top = p[K];
+    Integers changes{};
     ZELM_UNROLL
     for (int i = K + 1; i < N; ++i) {
+      const Integers change = (top ^ p[i]) & best[i];
+      p[i] ^= change;
+      changes ^= change;
+    }
+    p[K] = top ^ changes;
+  }
+};
+
+// Steps K to the last, column by column. Returns the number of steps that passed; of a block, N if all passed in all
+// lanes.
+template <int K, class L, int N>
+ZELM_INLINE int eliminate(Tile<L, N, N>& a, [[maybe_unused]] IntegerOf<L> (&p)[N],
+                          [[maybe_unused]] IntegerOf<L> singular) {
+  using T = ElementOf<L>;
+  constexpr bool isBlock = LaneTraits<L>::width > 1;
+  if constexpr (K < N - 1) {
+    const std::conditional_t<isBlock, LanesExchange<L, N, K>, Exchange<T, N, K>> exchange(a);
+    exchange.places(p);
+    if constexpr (isBlock)
+      singular |= splat<L>(fixedLimit<T>) > exchange.largest;
+    else if (fixedLimit<T> > exchange.largest)
+      return K;
+    ZELM_UNROLL
+    for (int j = 0; j <= K; ++j)
+      exchange.column(a, j);
+    const L reciprocal = splat<L>(T(1)) / a(K, K);
+    ZELM_UNROLL
+    for (int i = K + 1; i < N; ++i)
       a(i, K) = a(i, K) * reciprocal;
+    ZELM_UNROLL
+    for (int j = K + 1; j < N; ++j) {
+      exchange.column(a, j);
       ZELM_UNROLL
-      for (int j = K + 1; j < N; ++j)
+      for (int i = K + 1; i < N; ++i)
         a(i, j) = a(i, j) - a(i, K) * a(K, j);
     }
     return eliminate<K + 1>(a, p, singular);
+  } else if constexpr (isBlock) {
+    singular |= splat<L>(fixedLimit<T>) > magnitude(a(K, K));
+    return anyLane(singular) ? 0 : N;
   } else {
-    if constexpr (LaneTraits<L>::width > 1)
-      return anyLane(singular) ? 0 : N;
-    else
-      return N;
+    return fixedLimit<T> > magnitude(a(K, K)) ? K : N;
   }
 }
 
@@ -166,12 +175,16 @@ template <class L, int N> ZELM_INLINE int eliminate(Tile<L, N, N>& a, IntegerOf<
   return eliminate<0>(a, p, IntegerOf<L>{});
 }
 
+template <int N, class T> __attribute__((noinline)) int eliminateOne(Tile<T, N, N>& a, int32_t (&p)[N]) {
+  return eliminate(a, p);
+}
+
 // One object. A failing one leaves the rows of the steps that passed, in the pointer layout none.
 template <int N, class T, class S, class D>
-__attribute__((noinline)) ZelStatus decomposeOne(const S& src, int32_t* index, const D& dst) {
+ZELM_INLINE ZelStatus decomposeOne(const S& src, int32_t* index, const D& dst) {
   Tile<T, N, N> a = loadTile<N, N>(src);
   int32_t p[N];
-  const int passed = eliminate(a, p);
+  const int passed = eliminateOne<N, T>(a, p);
   for (int i = 0; i < N; ++i)
     index[i] = p[i];
   if (D::strided || passed == N)
@@ -203,13 +216,53 @@ ZELM_INLINE void restoreRows(const Tile<L, R, C>& in, const IntegerOf<L> (&p)[R]
   }
 }
 
+#ifdef __AVX2__
+// The lower halves of four 64-bit integers, as bits.
+ZELM_INLINE Lanes<float, 4> lowerHalves(IntegerOf<Lanes<double>> v) {
+  const auto halves = reinterpret_cast<Lanes<float, 8>>(v);
+  return __builtin_shufflevector(halves, halves, 0, 2, 4, 6);
+}
+#endif
+
 template <class T, int N>
 ZELM_INLINE void storeIndex(const PlainAddresses<T, int32_t>& index, const IntegerOf<Lanes<T>> (&p)[N]) {
-  ZELM_UNROLL
-  for (int w = 0; w < laneCount<T>; ++w)
+  if constexpr (sizeof(T) == 4) {
+    ObjectAddresses<float, char> bytes;
+    Lanes<float> lanes[N];
     ZELM_UNROLL
-  for (int i = 0; i < N; ++i)
-    index.of[w][i] = static_cast<int32_t>(p[i][w]);
+    for (int w = 0; w < laneCount<T>; ++w)
+      bytes.of[w] = reinterpret_cast<char*>(index.of[w]);
+    ZELM_UNROLL
+    for (int i = 0; i < N; ++i)
+      lanes[i] = reinterpret_cast<Lanes<float>>(p[i]);
+    storeRun<N, float>(bytes, 0, lanes);
+  } else {
+#ifdef __AVX2__
+    ZELM_UNROLL
+    for (int i = 0; i < N; i += 4) {
+      const int from = i + 4 <= N || N < 4 ? i : N - 4;
+      __m128 row[4];
+      ZELM_UNROLL
+      for (int q = 0; q < 4; ++q)
+        row[q] = lowerHalves(p[from + q < N ? from + q : N - 1]);
+      _MM_TRANSPOSE4_PS(row[0], row[1], row[2], row[3]);
+      ZELM_UNROLL
+      for (int w = 0; w < 4; ++w) {
+        char* const to = reinterpret_cast<char*>(index.of[w] + from);
+        if constexpr (N == 3)
+          storeTriple(to, row[w]);
+        else
+          storeLanes(to, row[w]);
+      }
+    }
+#else
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      ZELM_UNROLL
+    for (int i = 0; i < N; ++i)
+      index.of[w][i] = static_cast<int32_t>(p[i][w]);
+#endif
+  }
 }
 
 // False, and nothing stored, if an object of the block is singular.
@@ -233,7 +286,7 @@ __attribute__((noinline)) bool decomposeRows(const ObjectAddresses<T, const char
       ObjectAddresses<T, char> row;
       ZELM_UNROLL
       for (int w = 0; w < laneCount<T>; ++w)
-        row.of[w] = dst.of[w] + p[i][w] * dstStep;
+        row.of[w] = dst.of[w] + (sizeof(T) == 8 ? p[i][w] : index.of[w][i]) * dstStep;
       storeRun<N, T>(row, 0, &a(i, 0));
     }
   }
@@ -250,9 +303,19 @@ __attribute__((noinline)) bool decomposeElements(const Positions<N * N>& srcPosi
   if (eliminate(a, p) < N)
     return false;
   storeIndex<T>(index, p);
-  Tile<Lanes<T>, N, N> rows;
-  restoreRows(a, p, rows);
-  storeElements<T>(dstPositions.of, N * N, dst, rows.element);
+  if constexpr (laneCount<T> == 2) {
+    // Two stores are less than the choices among all rows.
+    for (int i = 0; i < N; ++i)
+      for (int j = 0; j < N; ++j)
+        scatterLanes<T>(
+            [&](int w)
+                ZELM_BODY { return reinterpret_cast<char*>(dstPositions.of[index.of[w][i] * N + j] + dst.of[w]); },
+            a(i, j));
+  } else {
+    Tile<Lanes<T>, N, N> rows;
+    restoreRows(a, p, rows);
+    storeElements<T>(dstPositions.of, N * N, dst, rows.element);
+  }
   return true;
 }
 
