@@ -53,6 +53,32 @@ ZELM_INLINE Lanes<double, 2> squareRoot(Lanes<double, 2> x) {
 }
 #endif
 
+// Two vectors side by side: twice the objects, and two chains of dependent operations at a time.
+template <class V> struct Pair {
+  V low;
+  V high;
+  friend ZELM_INLINE Pair operator-(const Pair& a, const Pair& b) { return {a.low - b.low, a.high - b.high}; }
+  friend ZELM_INLINE Pair operator*(const Pair& a, const Pair& b) { return {a.low * b.low, a.high * b.high}; }
+  // The lanes in which a >= b in either vector.
+  friend ZELM_INLINE auto operator>=(const Pair& a, const Pair& b) { return (a.low >= b.low) | (a.high >= b.high); }
+};
+template <class V> struct LaneTraits<Pair<V>> {
+  using Element = ElementOf<V>;
+  static constexpr int width = 2 * LaneTraits<V>::width;
+};
+template <class> struct VectorOfPair;
+template <class V> struct VectorOfPair<Pair<V>> { using type = V; };
+
+// The same value in every lane of a vector or of a pair.
+template <class L> ZELM_INLINE L everyLane(ElementOf<L> value) {
+  if constexpr (LaneTraits<L>::width > laneCount<ElementOf<L>>) {
+    const auto v = splat<typename VectorOfPair<L>::type>(value);
+    return {v, v};
+  } else {
+    return splat<L>(value);
+  }
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // One element of each object
 
@@ -71,6 +97,41 @@ template <class T, class A> ZELM_INLINE void scatterLanes(const A& address, cons
   ZELM_UNROLL
   for (int w = 0; w < laneCount<T>; ++w)
     storeElement<T>(address(w), lanes[w]);
+}
+
+// Two neighbouring elements of each object, eight bytes at a time.
+template <class C> ZELM_INLINE void loadPairs(const ObjectAddresses<float, C>& x, int64_t offset, Lanes<float>* lanes) {
+  const auto at = [&](int w) ZELM_BODY { return loadElement<double>(x.of[w] + offset); };
+#ifdef __AVX2__
+  const auto p = reinterpret_cast<Lanes<float>>(Lanes<double>{at(0), at(1), at(4), at(5)});
+  const auto q = reinterpret_cast<Lanes<float>>(Lanes<double>{at(2), at(3), at(6), at(7)});
+  lanes[0] = __builtin_shufflevector(p, q, 0, 2, 8, 10, 4, 6, 12, 14);
+  lanes[1] = __builtin_shufflevector(p, q, 1, 3, 9, 11, 5, 7, 13, 15);
+#else
+  const auto p = reinterpret_cast<Lanes<float>>(Lanes<double>{at(0), at(1)});
+  const auto q = reinterpret_cast<Lanes<float>>(Lanes<double>{at(2), at(3)});
+  lanes[0] = __builtin_shufflevector(p, q, 0, 2, 4, 6);
+  lanes[1] = __builtin_shufflevector(p, q, 1, 3, 5, 7);
+#endif
+}
+ZELM_INLINE void storePairs(const ObjectAddresses<float, char>& x, int64_t offset, const Lanes<float>* lanes) {
+  const auto store = [&](int w, double pair) ZELM_BODY { storeElement<double>(x.of[w] + offset, pair); };
+#ifdef __AVX2__
+  const auto p = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 0, 8, 1, 9, 4, 12, 5, 13));
+  const auto q =
+      reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 2, 10, 3, 11, 6, 14, 7, 15));
+  store(4, p[2]);
+  store(5, p[3]);
+  store(6, q[2]);
+  store(7, q[3]);
+#else
+  const auto p = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 0, 4, 1, 5));
+  const auto q = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 2, 6, 3, 7));
+#endif
+  store(0, p[0]);
+  store(1, p[1]);
+  store(2, q[0]);
+  store(3, q[1]);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -92,7 +153,7 @@ template <class T, class ColumnStep> struct StridedBlock {
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     const int64_t offset = i * rowStep + j * columnStep;
     if constexpr (unit && isFixed<N>)
-      loadRun<N::value, Element>(objects, offset, lanes);
+      loadFixed(offset, n, lanes);
     else if constexpr (unit)
       loadUnit(offset, n, lanes);
     else
@@ -102,7 +163,7 @@ template <class T, class ColumnStep> struct StridedBlock {
   template <class N> ZELM_INLINE void store(int i, int j, N n, const Lanes<Element>* lanes) const {
     const int64_t offset = i * rowStep + j * columnStep;
     if constexpr (unit && isFixed<N>)
-      storeRun<N::value, Element>(objects, offset, lanes);
+      storeFixed(offset, n, lanes);
     else if constexpr (unit)
       storeUnit(offset, n, lanes);
     else
@@ -115,6 +176,23 @@ private:
   }
   ZELM_INLINE void scatter(int64_t offset, const Lanes<Element>& lanes) const {
     scatterLanes<Element>([&](int w) ZELM_BODY { return objects.of[w] + offset; }, lanes);
+  }
+
+  template <int N> ZELM_INLINE void loadFixed(int64_t offset, Fixed<N>, Lanes<Element>* lanes) const {
+    if constexpr (N == 1)
+      lanes[0] = gather(offset);
+    else if constexpr (N == 2 && chunk == 4)
+      loadPairs(objects, offset, lanes);
+    else
+      loadRun<N, Element>(objects, offset, lanes);
+  }
+  template <int N> ZELM_INLINE void storeFixed(int64_t offset, Fixed<N>, const Lanes<Element>* lanes) const {
+    if constexpr (N == 1)
+      scatter(offset, lanes[0]);
+    else if constexpr (N == 2 && chunk == 4)
+      storePairs(objects, offset, lanes);
+    else
+      storeRun<N, Element>(objects, offset, lanes);
   }
 
   ZELM_INLINE void loadUnit(int64_t offset, int n, Lanes<Element>* lanes) const {
@@ -192,7 +270,9 @@ template <bool Neighbours> struct Block {
   static constexpr bool neighbours = Neighbours;
   int64_t first;
   int last;
-  ZELM_INLINE int64_t object(int w) const { return first + (w < last ? w : last); }
+  // The two vectors of a block of W objects each.
+  template <int W> Block low() const { return {first, last < W ? last : W - 1}; }
+  template <int W> Block high() const { return {last < W ? first + last : first + W, last < W ? 0 : last - W}; }
 };
 
 template <class> constexpr bool isPointerLayout = false;
@@ -201,51 +281,75 @@ template <class T> constexpr bool isPointerLayout<MatricesP<T>> = true;
 template <class T> constexpr bool isPointerLayout<VectorP<T>> = true;
 template <class T> constexpr bool isPointerLayout<VectorsP<T>> = true;
 
-template <class T, class Operand, class B>
-ZELM_INLINE auto pointerBlock(T* const* list, const Operand& x, const B& block, int64_t rowLength) {
-  if constexpr (B::neighbours) {
-    return NeighbourBlock<T>{list, rowLength, x.offset + block.first * x.stride0};
-  } else {
-    PositionBlock<T> positions{list, rowLength, {}};
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<typename Operand::Element>; ++w)
-      positions.offset[w] = x.offset + block.object(w) * x.stride0;
-    return positions;
-  }
-}
-
 template <class T, class RowStep, class Step>
-ZELM_INLINE StridedBlock<T, Step> stridedBlock(const StridedMatrixView<T, RowStep, Step>& view) {
+ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedMatrixView<T, RowStep, Step>& view, int64_t) {
   return {{}, view.rowStep, view.columnStep};
 }
-template <class T, class Step> ZELM_INLINE StridedBlock<T, Step> stridedBlock(const StridedVectorView<T, Step>& view) {
+template <class T, class Step>
+ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedVectorView<T, Step>& view, int64_t) {
   return {{}, 0, view.step};
 }
-
-// A matrix operand; rowLength is the width of its rows as stored.
-template <class Operand, class B>
-ZELM_INLINE auto matrixBlock(const Operand& x, const B& block, [[maybe_unused]] int64_t rowLength) {
-  if constexpr (isPointerLayout<Operand>) {
-    return pointerBlock(x.list, x, block, rowLength);
-  } else {
-    auto strided = stridedBlock(x.object(block.first, 0));
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<typename Operand::Element>; ++w)
-      strided.objects.of[w] = x.object(block.object(w), 0).address(0, 0);
-    return strided;
-  }
+template <class T> ZELM_INLINE PositionBlock<T> blockOf(const PointerMatrixView<T>& view, int64_t rowLength) {
+  return {view.list, rowLength, {}};
+}
+template <class T> ZELM_INLINE PositionBlock<T> blockOf(const PointerVectorView<T>& view, int64_t) {
+  return {view.list, 0, {}};
 }
 
-template <class Operand, class B> ZELM_INLINE auto vectorBlock(const Operand& x, const B& block) {
-  if constexpr (isPointerLayout<Operand>) {
-    return pointerBlock(x.list, x, block, 0);
-  } else {
-    auto strided = stridedBlock(x.object(block.first));
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<typename Operand::Element>; ++w)
-      strided.objects.of[w] = x.object(block.object(w)).address(0);
-    return strided;
+// The kind of block that its neighbours make, in the pointer layout.
+struct NoNeighbours {};
+template <class View> NoNeighbours neighboursOf(const View&);
+template <class T> NeighbourBlock<T> neighboursOf(const PointerMatrixView<T>&);
+template <class T> NeighbourBlock<T> neighboursOf(const PointerVectorView<T>&);
+
+// One operand's blocks, one after the other in the same place: only the addresses change. (Blocks that were made anew
+// would be copied, in pieces of another size than they were written.)
+template <class Operand, class View> class BlocksOf {
+public:
+  // view(k) is object k.
+  ZELM_INLINE BlocksOf(const Operand& operand, int64_t rowLength, const View& view)
+      : operand_(operand), view_(view), block_(blockOf(view(0), rowLength)) {}
+
+  template <class B> ZELM_INLINE const auto& at(const B& block) {
+    if constexpr (isPointerLayout<Operand>) {
+      if constexpr (B::neighbours) {
+        neighbours_ = {block_.list, block_.rowLength, operand_.offset + block.first * operand_.stride0};
+        return neighbours_;
+      } else {
+        place(block, block_.offset, [&](int64_t k) ZELM_BODY { return operand_.offset + k * operand_.stride0; });
+        return block_;
+      }
+    } else {
+      place(block, block_.objects.of, [&](int64_t k) ZELM_BODY { return view_(k).origin; });
+      return block_;
+    }
   }
+
+private:
+  template <class B, class Place, int W, class F>
+  ZELM_INLINE static void place(const B& block, Place (&places)[W], const F& of) {
+    if (block.last == W - 1) {
+      ZELM_UNROLL
+      for (int w = 0; w < W; ++w)
+        places[w] = of(block.first + w);
+    } else {
+      for (int w = 0; w < W; ++w)
+        places[w] = of(block.first + (w < block.last ? w : block.last));
+    }
+  }
+
+  const Operand& operand_;
+  View view_;
+  decltype(blockOf(std::declval<View>()(0), 0)) block_;
+  decltype(neighboursOf(std::declval<View>()(0))) neighbours_{};
+};
+
+// A matrix operand; rowLength is the width of its rows as stored.
+template <class Operand> ZELM_INLINE auto matrixBlocks(const Operand& x, int64_t rowLength) {
+  return BlocksOf(x, rowLength, [&x, rowLength](int64_t k) ZELM_BODY { return x.object(k, rowLength); });
+}
+template <class Operand> ZELM_INLINE auto vectorBlocks(const Operand& x) {
+  return BlocksOf(x, 0, [&x](int64_t k) ZELM_BODY { return x.object(k); });
 }
 
 template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
@@ -255,12 +359,13 @@ template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
     return false;
 }
 
-// Runs through a batch in blocks. lanes(block) returns whether the block is done; one that is not has stored nothing,
+// Runs through a batch in blocks of Width objects: a vector full, or twice that for two vectors side by side.
+// lanes(block) returns whether the block is done; one that is not has stored nothing,
 // and goes through single(k) object by object, as does a lone object. single returns a status; the first failure ends
 // the batch.
-template <class T, bool HasNeighbours, class ForLanes, class ForSingle>
+template <int Width, bool HasNeighbours, class ForLanes, class ForSingle>
 ZELM_INLINE ZelStatus forBlocks(int32_t count, bool neighbours, const ForLanes& lanes, const ForSingle& single) {
-  constexpr int W = laneCount<T>;
+  constexpr int W = Width;
   for (int64_t k = 0; k < count; k += W) {
     const int last = count - k < W ? static_cast<int>(count - k) - 1 : W - 1;
     bool done = false;

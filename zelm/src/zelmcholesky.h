@@ -32,6 +32,9 @@ namespace zelm {
 
 // 1 / sqrt(d), root and division in double, rounded once.
 struct WidenedRoot {
+  template <class V> ZELM_INLINE static Pair<V> reciprocal(const Pair<V>& d) {
+    return {reciprocal(d.low), reciprocal(d.high)};
+  }
   ZELM_INLINE static double reciprocal(double d) { return 1 / squareRoot(d); }
   ZELM_INLINE static float reciprocal(float d) { return static_cast<float>(reciprocal(static_cast<double>(d))); }
 #ifdef __AVX2__
@@ -110,7 +113,7 @@ ZELM_INLINE bool choleskyFactor(const Source& src, const Factor& dst, Side side,
     });
     L d = src.load(i, i);
     ascending(Fixed<0>{}, i, [&](auto k) ZELM_BODY { d = d - dst.load(i, k) * dst.load(i, k); });
-    if (anyLane(splat<L>(limit) >= d))
+    if (anyLane(everyLane<L>(limit) >= d))
       return false;
     dst.store(i, i, Root::reciprocal(d));
     return true;
@@ -179,18 +182,33 @@ ZELM_INLINE ZelStatus choleskyFactors(Pivots pivots, const Source& src, const Re
       [&]() ZELM_BODY { return choleskyFactorGeneral(pivots, source, result, side); });
 }
 
-// A block; nothing is stored unless every lane has all its pivots.
+// A block of two vectors full; nothing is stored unless every lane has all its pivots.
 template <int N, class Source, class Result>
-__attribute__((noinline)) bool choleskyFactorBlock(const Source& src, const Result& dst,
-                                                   typename Result::Element limit) {
-  using L = Lanes<typename Result::Element>;
+__attribute__((noinline)) bool choleskyFactorBlock(const Source& srcLow, const Source& srcHigh, const Result& dstLow,
+                                                   const Result& dstHigh, typename Result::Element limit) {
+  using V = Lanes<typename Result::Element>;
+  using L = Pair<V>;
   L element[triangleElements<N>];
   const Triangle<L> triangle{element};
-  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { src.load(i, 0, next(i), element + triangle.rowStart(i)); });
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
+    V low[N];
+    V high[N];
+    srcLow.load(i, 0, next(i), low);
+    srcHigh.load(i, 0, next(i), high);
+    ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY { triangle.store(i, j, L{low[j], high[j]}); });
+  });
   if (!choleskyFactor<L, WidenedRoot>(triangle, triangle, Fixed<N>{}, limit))
     return false;
-  ascending(Fixed<0>{}, Fixed<N>{},
-            [&](auto i) ZELM_BODY { dst.store(i, 0, next(i), element + triangle.rowStart(i)); });
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
+    V low[N];
+    V high[N];
+    ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY {
+      low[j] = triangle.load(i, j).low;
+      high[j] = triangle.load(i, j).high;
+    });
+    dstLow.store(i, 0, next(i), low);
+    dstHigh.store(i, 0, next(i), high);
+  });
   return true;
 }
 
@@ -203,11 +221,18 @@ ZELM_INLINE ZelStatus choleskyFactorBatch(Pivots pivots, const Source& src, cons
       StraightSides{}, side,
       [&](auto fixed) ZELM_BODY {
         constexpr int N = decltype(fixed)::value;
-        return forBlocks<T, isPointerLayout<Source>>(
+        auto sourcesLow = matrixBlocks(src, N);
+        auto sourcesHigh = matrixBlocks(src, N);
+        auto resultsLow = matrixBlocks(dst, N);
+        auto resultsHigh = matrixBlocks(dst, N);
+        return forBlocks<2 * laneCount<T>, isPointerLayout<Source>>(
             count, areNeighbours(src) && areNeighbours(dst),
             [&](auto block) ZELM_BODY {
-              return choleskyFactorBlock<N>(matrixBlock(src, block, N), matrixBlock(dst, block, N),
-                                            static_cast<T>(Pivots::limit(N)));
+              constexpr int W = laneCount<T>;
+              const auto low = block.template low<W>();
+              const auto high = block.template high<W>();
+              return choleskyFactorBlock<N>(sourcesLow.at(low), sourcesHigh.at(high), resultsLow.at(low),
+                                            resultsHigh.at(high), static_cast<T>(Pivots::limit(N)));
             },
             [&](int64_t k) ZELM_BODY { return choleskyFactorFixed<N>(pivots, src.object(k, N), dst.object(k, N)); });
       },
@@ -302,16 +327,19 @@ ZELM_INLINE ZelStatus choleskySolutions(Straight3To6, const Factor& src1, const 
       [&](auto fixed) ZELM_BODY {
         constexpr int N = decltype(fixed)::value;
         bool neighbours = areNeighbours(src2) && areNeighbours(dst);
+        auto rights = vectorBlocks(src2);
+        auto results = vectorBlocks(dst);
         const auto single = [&](int64_t k) ZELM_BODY {
           choleskySolveFixed<N>(src1.object(k, N), src2.object(k), dst.object(k));
           return zelStatusOk;
         };
         if constexpr (Factor::isArray) {
           neighbours = neighbours && areNeighbours(src1);
-          return forBlocks<T, isPointerLayout<Result>>(
+          auto factors = matrixBlocks(src1, N);
+          return forBlocks<laneCount<T>, isPointerLayout<Result>>(
               count, neighbours,
               [&](auto block) ZELM_BODY {
-                choleskySolveBlock<N>(matrixBlock(src1, block, N), vectorBlock(src2, block), vectorBlock(dst, block));
+                choleskySolveBlock<N>(factors.at(block), rights.at(block), results.at(block));
                 return true;
               },
               single);
@@ -322,11 +350,10 @@ ZELM_INLINE ZelStatus choleskySolutions(Straight3To6, const Factor& src1, const 
               factor[Triangle<T>::rowStart(i) + j] = splat<Lanes<T>>(src1.object(0, N).load(i, j));
             });
           });
-          return forBlocks<T, isPointerLayout<Result>>(
+          return forBlocks<laneCount<T>, isPointerLayout<Result>>(
               count, neighbours,
               [&](auto block) ZELM_BODY {
-                choleskySolveBlock<N>(static_cast<const Lanes<T>*>(factor), vectorBlock(src2, block),
-                                      vectorBlock(dst, block));
+                choleskySolveBlock<N>(static_cast<const Lanes<T>*>(factor), rights.at(block), results.at(block));
                 return true;
               },
               single);

@@ -245,15 +245,17 @@ ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& bu
   };
   const bool inLanes = count > 1 && qrFitsLanes(width, height);
   QrScratch<Lanes<T>> scratch;
-  return forBlocks<T, isPointerLayout<Source>>(
+  auto sources = matrixBlocks(src, width);
+  auto results = matrixBlocks(dst, width);
+  return forBlocks<laneCount<T>, isPointerLayout<Source>>(
       count, areNeighbours(src) && areNeighbours(dst),
       [&](auto block) ZELM_BODY {
         if (!inLanes)
           return false;
-        loadRectangle(matrixBlock(src, block, width), scratch.element, width, height);
+        loadRectangle(sources.at(block), scratch.element, width, height);
         if (!qrReduceLanes(scratch, width, height))
           return false;
-        storeRectangle(matrixBlock(dst, block, width), scratch.element, width, height);
+        storeRectangle(results.at(block), scratch.element, width, height);
         return true;
       },
       single);
@@ -299,6 +301,9 @@ ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>&
   };
   const bool inLanes = count > 1 && qrFitsLanes(width, height);
   QrScratch<Lanes<T>> scratch;
+  [[maybe_unused]] auto matrices = matrixBlocks(src1, width);
+  auto rights = vectorBlocks(src2);
+  auto results = vectorBlocks(dst);
   bool neighbours = areNeighbours(src2) && areNeighbours(dst);
   if constexpr (each) {
     neighbours = neighbours && areNeighbours(src1);
@@ -310,16 +315,16 @@ ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>&
         scratch.element[i * width + j] = splat<Lanes<T>>(matrix.load(i, j));
     qrDenominators(scratch, width, height);
   }
-  return forBlocks<T, isPointerLayout<Result>>(
+  return forBlocks<laneCount<T>, isPointerLayout<Result>>(
       count, neighbours,
       [&](auto block) ZELM_BODY {
         if (!inLanes)
           return false;
         if constexpr (each)
-          loadRectangle(matrixBlock(src1, block, width), scratch.element, width, height);
-        loadRectangle(vectorBlock(src2, block), scratch.vector, height, 1);
+          loadRectangle(matrices.at(block), scratch.element, width, height);
+        loadRectangle(rights.at(block), scratch.vector, height, 1);
         qrSolveLanes<each>(scratch, width, height);
-        storeRectangle(vectorBlock(dst, block), scratch.vector, width, 1);
+        storeRectangle(results.at(block), scratch.vector, width, 1);
         return true;
       },
       single);
