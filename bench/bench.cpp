@@ -450,6 +450,7 @@ int main(int argc, char** argv) {
   bench::registerLu();
   bench::registerQR();
   bench::registerMulMatrices();
+  bench::registerMulVectors();
   benchmark::Initialize(&number, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(number, arguments.data()))
     return EXIT_FAILURE;

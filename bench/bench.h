@@ -105,6 +105,7 @@ void registerCholesky();
 void registerLu();
 void registerQR();
 void registerMulMatrices();
+void registerMulVectors();
 
 } // namespace bench
 
