@@ -42,31 +42,36 @@ template <class View> ZELM_INLINE bool dividePoint(const Homogeneous<float>& h, 
   return good;
 }
 
-// The same on lanes, by selection. Failing lanes are marked in `failed`.
-template <class L, class Mask> ZELM_INLINE Tile<L, 1, 3> dividePoints(const Homogeneous<L>& h, Mask& failed) {
+template <class Mask> ZELM_INLINE bool allLanes(const Mask& mask) {
+#ifdef __AVX2__
+  return _mm256_movemask_ps(reinterpret_cast<__m256>(mask)) == 0xff;
+#else
+  return _mm_movemask_ps(reinterpret_cast<__m128>(mask)) == 0xf;
+#endif
+}
+
+// The same on lanes. Where a point of the block fails, results are selected lane by lane.
+template <class L> ZELM_INLINE Tile<L, 1, 3> dividePoints(const Homogeneous<L>& h, bool& failed) {
   const L w = h.y[3];
-  const Mask good = (w > splat<L>(smallestW)) | (w < splat<L>(-smallestW));
+  const auto good = (w > splat<L>(smallestW)) | (w < splat<L>(-smallestW));
   const L reciprocal = splat<L>(1.0f) / w;
-  failed |= ~good;
   Tile<L, 1, 3> point;
   ZELM_UNROLL
   for (int i = 0; i < 3; ++i)
-    point(0, i) = good ? h.y[i] * reciprocal : splat<L>(largeValue);
+    point(0, i) = h.y[i] * reciprocal;
+  if (__builtin_expect(!allLanes(good), 0)) {
+    failed = true;
+    ZELM_UNROLL
+    for (int i = 0; i < 3; ++i)
+      point(0, i) = good ? point(0, i) : splat<L>(largeValue);
+  }
   return point;
-}
-
-template <class Mask> ZELM_INLINE bool anyLane(const Mask& mask) {
-  bool any = false;
-  ZELM_UNROLL
-  for (int w = 0; w < laneCount<float>; ++w)
-    any |= mask[w] != 0;
-  return any;
 }
 
 // Points first .. last whole vector of them, packed one behind the other. Returns the first point not done.
 template <bool Stream>
 inline int64_t transformPacked(const Tile<float, 4, 4>& matrix, const char* src, char* dst, int64_t first, int64_t end,
-                               bool& failed) {
+                               bool& anyFailed) {
   using L = Lanes<float>;
   constexpr int64_t width = laneCount<float>;
   constexpr int64_t pointBytes = 3 * sizeof(float);
@@ -74,13 +79,13 @@ inline int64_t transformPacked(const Tile<float, 4, 4>& matrix, const char* src,
   ZELM_UNROLL
   for (int e = 0; e < 16; ++e)
     a.element[e] = splat<L>(matrix.element[e]);
-  decltype(L{} > L{}) failedLanes{};
+  bool failed = false;
   int64_t k = first;
   for (; k + width <= end; k += width) {
     const Tile<L, 1, 3> x = loadTriples<float>(src + k * pointBytes);
-    storeTriples<Stream>(dst + k * pointBytes, dividePoints(transformPoint(a, x), failedLanes));
+    storeTriples<Stream>(dst + k * pointBytes, dividePoints(transformPoint(a, x), failed));
   }
-  failed |= anyLane(failedLanes);
+  anyFailed |= failed;
   return k;
 }
 
