@@ -12,13 +12,15 @@
 
 namespace zelm {
 
-// a(0) * b(0) + a(1) * b(1) + ..., from the left.
-template <int N, class A, class B> ZELM_INLINE auto sumOfProducts(const A& a, const B& b) {
-  auto sum = a(0) * b(0);
+// sum[v] = a(0) * b(0, v) + a(1) * b(1, v) + ..., from the left, for the V columns of a row.
+template <int N, int V, class L, class A, class B> ZELM_INLINE void sumProducts(L (&sum)[V], const A& a, const B& b) {
   ZELM_UNROLL
-  for (int k = 1; k < N; ++k)
-    sum = sum + a(k) * b(k);
-  return sum;
+  for (int v = 0; v < V; ++v) {
+    sum[v] = a(0) * b(0, v);
+    ZELM_UNROLL
+    for (int k = 1; k < N; ++k)
+      sum[v] = sum[v] + a(k) * b(k, v);
+  }
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -112,15 +114,6 @@ template <class T, class S> ZELM_INLINE Objects<T> objectsOf(const MatricesL<T, 
   return {nullptr, x.list, x.shift, x.stride1};
 }
 
-// The objects k, k + 1, ... of a group; the last object of the batch stands in for those that the last group lacks.
-template <class C, int G> struct Group { C* of[G]; };
-template <int G, class T> ZELM_INLINE Group<Byte<T>, G> groupOf(const Objects<T>& x, int64_t k, int64_t count) {
-  if constexpr (G == 1)
-    return {{x[k]}};
-  else
-    return {{x[k], x[k + 1 < count ? k + 1 : k]}};
-}
-
 constexpr int smaller(int a, int b) {
   return a < b ? a : b;
 }
@@ -130,19 +123,35 @@ constexpr int larger(int a, int b) {
 
 // How the rows of N elements are cut into vectors of W: the last one is moved back to end with the row, so that some
 // columns are computed twice; a row that is shorter than W leaves lanes idle. Where two rows fit the widest vector, two
-// objects lie in it side by side. A transposed src2 is turned in blocks of 16 bytes a row.
+// rows of an object of side 4 lie in it side by side, or one row of each of two objects. A transposed src2 is turned in
+// blocks of 16 bytes a row.
 template <class T, int N, bool turned> struct RowVectors {
   static constexpr int widest = turned ? smaller(4, laneCount<T>) : laneCount<T>;
   static constexpr int W = smaller(widest, N <= 4 ? 4 : 8);
-  static constexpr int G = N <= W ? laneCount<T> / W : 1;
+  static constexpr int copies = N <= W ? laneCount<T> / W : 1;
+  static constexpr int rowsAtOnce = N == 4 ? copies : 1;
+  static constexpr int objectsAtOnce = copies / rowsAtOnce;
   static constexpr int perRow = (N + W - 1) / W;
   static constexpr int used = smaller(N, W);
   static constexpr int from(int v) { return larger(0, smaller(v * W, N - W)); }
-  using Vector = Lanes<T, W * G>;
+  using Vector = Lanes<T, W * copies>;
   struct Rows {
     Vector row[N][perRow];
   };
 };
+
+// The addresses of what lies side by side: objects k, k + 1, ..., the last object of the batch standing in for those
+// that the last group lacks; or one object as often.
+template <class C, int G> struct Group { C* of[G]; };
+template <class Cut, class T>
+ZELM_INLINE Group<Byte<T>, Cut::copies> groupOf(const Objects<T>& x, int64_t k, int64_t count) {
+  if constexpr (Cut::copies == 1)
+    return {{x[k]}};
+  else if constexpr (Cut::objectsAtOnce == 1)
+    return {{x[k], x[k]}};
+  else
+    return {{x[k], x[k + 1 < count ? k + 1 : k]}};
+}
 
 // f(0), or f(0) and f(1) side by side.
 template <int G, class F> ZELM_INLINE auto sideBySide(const F& f) {
@@ -152,29 +161,37 @@ template <int G, class F> ZELM_INLINE auto sideBySide(const F& f) {
     return joinHalves(f(0), f(1));
 }
 
-// Element c of each of the groups of W, in all lanes of the group.
-template <int W> ZELM_INLINE Lanes<float, 8> spreadInGroups(const Lanes<float, 8>& v, int c) {
-  static_assert(W == 4);
-  switch (c) {
+#ifdef __AVX2__
+// Element c of the first four in its four lanes, element c + further of the second four in theirs.
+ZELM_INLINE Lanes<float, 8> spreadInGroups(const Lanes<float, 8>& v, int c, int further) {
+  switch (c + 4 * further) {
   case 0:
     return __builtin_shufflevector(v, v, 0, 0, 0, 0, 4, 4, 4, 4);
   case 1:
     return __builtin_shufflevector(v, v, 1, 1, 1, 1, 5, 5, 5, 5);
   case 2:
     return __builtin_shufflevector(v, v, 2, 2, 2, 2, 6, 6, 6, 6);
-  default:
+  case 3:
     return __builtin_shufflevector(v, v, 3, 3, 3, 3, 7, 7, 7, 7);
+  case 4:
+    return __builtin_shufflevector(v, v, 0, 0, 0, 0, 5, 5, 5, 5);
+  case 5:
+    return __builtin_shufflevector(v, v, 1, 1, 1, 1, 6, 6, 6, 6);
+  default:
+    return __builtin_shufflevector(v, v, 2, 2, 2, 2, 7, 7, 7, 7);
   }
 }
+#endif
 
 // Is everything of a vector of W elements at (i, j) inside an object of N by N elements without gaps?
 template <int W, int N> constexpr bool inside(int i, int j) {
   return i * N + j + W <= N * N;
 }
 
-// The stored rows of G objects as vectors.
-template <class T, int N, bool packed, class Cut, int G>
-ZELM_INLINE auto loadRows(const Group<const char, G>& x, int64_t stride1) {
+// The stored rows of a group as vectors.
+template <class T, int N, bool packed, class Cut>
+ZELM_INLINE auto loadRows(const Group<const char, Cut::copies>& x, int64_t stride1) {
+  constexpr int G = Cut::copies;
   constexpr int W = Cut::W;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   typename Cut::Rows rows;
@@ -189,9 +206,10 @@ ZELM_INLINE auto loadRows(const Group<const char, G>& x, int64_t stride1) {
   return rows;
 }
 
-// The stored columns of G objects as vectors.
-template <class T, int N, bool packed, class Cut, int G>
-ZELM_INLINE auto loadColumns(const Group<const char, G>& x, int64_t stride1) {
+// The stored columns of a group as vectors.
+template <class T, int N, bool packed, class Cut>
+ZELM_INLINE auto loadColumns(const Group<const char, Cut::copies>& x, int64_t stride1) {
+  constexpr int G = Cut::copies;
   constexpr int W = Cut::W;
   constexpr int Q = chunkElements<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
@@ -223,57 +241,92 @@ ZELM_INLINE auto loadColumns(const Group<const char, G>& x, int64_t stride1) {
   return rows;
 }
 
-// src1 of a batch: what stands in all lanes of an object when element (i, k) is wanted.
+// Element (i, k) of src1 in all lanes of a row; of two rows at once, element (i + 1, k) in those of the second.
+template <class T, class Cut, bool transposed>
+ZELM_INLINE typename Cut::Vector spreadElement(const char* x, int64_t stride1, int i, int k) {
+  const auto of = [&](int row) __attribute__((always_inline)) {
+    const int r = transposed ? k : row;
+    const int c = transposed ? row : k;
+    return loadElement<T>(x + r * stride1 + c * static_cast<int64_t>(sizeof(T)));
+  };
+  if constexpr (Cut::rowsAtOnce == 2)
+    return joinHalves(splat<Lanes<T, Cut::W>>(of(i)), splat<Lanes<T, Cut::W>>(of(i + 1)));
+  else
+    return splat<typename Cut::Vector>(of(i));
+}
+
+// A single src1 for all objects of a batch.
 template <class T, int N, class Cut, bool transposed> struct SpreadSingle {
   typename Cut::Vector element[N * N];
   ZELM_INLINE SpreadSingle(const char* x, int64_t stride1) {
     ZELM_UNROLL
-    for (int r = 0; r < N; ++r)
+    for (int i = 0; i < N; i += Cut::rowsAtOnce)
       ZELM_UNROLL
-    for (int c = 0; c < N; ++c)
-      element[r * N + c] =
-          splat<typename Cut::Vector>(loadElement<T>(x + r * stride1 + c * static_cast<int64_t>(sizeof(T))));
+    for (int k = 0; k < N; ++k)
+      element[i * N + k] = spreadElement<T, Cut, transposed>(x, stride1, i, k);
   }
-  ZELM_INLINE auto operator()(int i, int k) const { return transposed ? element[k * N + i] : element[i * N + k]; }
+  ZELM_INLINE auto operator()(int i, int k) const { return element[i * N + k]; }
 };
-template <class T, int N, class Cut, bool transposed> struct SpreadOne {
+
+// One object, its elements read one by one.
+template <class T, class Cut, bool transposed> struct SpreadOne {
   const char* x;
   int64_t stride1;
-  ZELM_INLINE auto operator()(int i, int k) const {
-    const int r = transposed ? k : i;
-    const int c = transposed ? i : k;
-    return splat<typename Cut::Vector>(loadElement<T>(x + r * stride1 + c * static_cast<int64_t>(sizeof(T))));
-  }
+  ZELM_INLINE auto operator()(int i, int k) const { return spreadElement<T, Cut, transposed>(x, stride1, i, k); }
 };
-template <class T, int N, class Cut, bool transposed> struct SpreadGroup {
+
+// Two objects side by side.
+template <class Cut, bool transposed> struct SpreadObjects {
   typename Cut::Rows rows;
   ZELM_INLINE auto operator()(int i, int k) const {
-    return spreadInGroups<Cut::W>(rows.row[transposed ? k : i][0], transposed ? i : k);
+    return spreadInGroups(rows.row[transposed ? k : i][0], transposed ? i : k, 0);
   }
 };
 
-// G objects. Rows are stored in ascending order: what a vector writes behind its row is the next row's.
-template <class T, int N, bool packed, class Cut, class Spread, int G>
-ZELM_INLINE void multiplyGroup(const Spread& a, const typename Cut::Rows& b, const Group<char, G>& d, int64_t stride1) {
+// Two rows of one object side by side, or each stored row of a transposed one twice.
+template <class Cut, bool transposed> struct SpreadRows {
+  typename Cut::Rows rows;
+  ZELM_INLINE auto operator()(int i, int k) const {
+    return transposed ? spreadInGroups(rows.row[k][0], i, 1) : spreadInGroups(rows.row[i][0], k, 0);
+  }
+};
+template <class T, int N, bool packed, class Cut>
+ZELM_INLINE typename Cut::Rows loadRowPairs(const char* x, int64_t stride1) {
+  typename Cut::Rows rows;
+  ZELM_UNROLL
+  for (int i = 0; i < N; i += 2) {
+    if constexpr (packed)
+      rows.row[i][0] = loadLanes<T, 2 * Cut::W>(x + i * stride1);
+    else
+      rows.row[i][0] = joinHalves(loadLanes<T, Cut::W>(x + i * stride1), loadLanes<T, Cut::W>(x + (i + 1) * stride1));
+  }
+  return rows;
+}
+
+// Rows are stored in ascending order: what a vector writes behind its row is the next row's. The result's group has the
+// addresses of the objects, or of the two rows that are computed at once.
+template <class T, int N, bool packed, class Cut, class Spread>
+ZELM_INLINE void multiplyGroup(const Spread& a, const typename Cut::Rows& b, const Group<char, Cut::copies>& d,
+                               int64_t stride1) {
   constexpr int W = Cut::W;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   ZELM_UNROLL
-  for (int i = 0; i < N; ++i) {
+  for (int i = 0; i < N; i += Cut::rowsAtOnce) {
     typename Cut::Vector sum[Cut::perRow];
-    ZELM_UNROLL
-    for (int v = 0; v < Cut::perRow; ++v)
-      sum[v] = sumOfProducts<N>(
-          [&](int k) __attribute__((always_inline)) { return a(i, k); }, [&](int k) __attribute__((
-                                                                             always_inline)) { return b.row[k][v]; });
+    sumProducts<N>(
+        sum, [&](int k) __attribute__((always_inline)) { return a(i, k); },
+        [&](int k, int v) __attribute__((always_inline)) { return b.row[k][v]; });
     ZELM_UNROLL
     for (int v = 0; v < Cut::perRow; ++v) {
-      char* const at0 = d.of[0] + i * stride1 + Cut::from(v) * E;
+      const int64_t at = i * stride1 + Cut::from(v) * E;
       const bool all = packed && inside<W, N>(i, Cut::from(v));
-      if constexpr (G == 1) {
-        storePart<T, W, Cut::used>(at0, sum[v], all);
+      if constexpr (Cut::copies == 1) {
+        storePart<T, W, Cut::used>(d.of[0] + at, sum[v], all);
+      } else if constexpr (packed && Cut::rowsAtOnce == 2) {
+        storeLanes(d.of[0] + at, sum[v]);
       } else {
-        storePart<T, W, Cut::used>(at0, lowPart<W>(sum[v]), all);
-        storePart<T, W, Cut::used>(d.of[1] + i * stride1 + Cut::from(v) * E, highPart<W>(sum[v]), all);
+        storePart<T, W, Cut::used>(d.of[0] + at, lowPart<W>(sum[v]), all);
+        storePart<T, W, Cut::used>(d.of[1] + at, highPart<W>(sum[v]), all);
       }
     }
   }
@@ -284,45 +337,54 @@ template <bool first, bool second> struct Which {
   static constexpr bool src2 = second;
 };
 
-// Packed: the rows of every object follow each other without gaps, in all operands.
+// Packed: the rows of every object follow each other without gaps, in all operands. The operands are copies, which
+// stores to the result cannot change.
 template <class T, int N, class Transposed12, class Single, bool packed>
-ZELM_INLINE void multiplyObjects(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
+ZELM_INLINE void multiplyObjects(const Objects<const T> src1, const Objects<const T> src2, const Objects<T> dst,
                                  int64_t count) {
   using Cut = RowVectors<T, N, Transposed12::src2>;
-  constexpr int G = Cut::G;
+  constexpr bool transposed = Transposed12::src1;
+  constexpr int64_t step = Cut::objectsAtOnce;
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
   const auto firstOf = [&](int64_t k) __attribute__((always_inline)) {
     const int64_t stride1 = packed ? row : src1.stride1;
     if constexpr (Single::src1)
-      return SpreadSingle<T, N, Cut, Transposed12::src1>(src1[0], stride1);
-    else if constexpr (G == 1)
-      return SpreadOne<T, N, Cut, Transposed12::src1>{src1[k], stride1};
+      return SpreadSingle<T, N, Cut, transposed>(src1[0], stride1);
+    else if constexpr (Cut::copies == 1)
+      return SpreadOne<T, Cut, transposed>{src1[k], stride1};
+    else if constexpr (Cut::rowsAtOnce == 2 && !transposed)
+      return SpreadRows<Cut, transposed>{loadRowPairs<T, N, packed, Cut>(src1[k], stride1)};
+    else if constexpr (Cut::rowsAtOnce == 2)
+      return SpreadRows<Cut, transposed>{loadRows<T, N, packed, Cut>(groupOf<Cut>(src1, k, count), stride1)};
     else
-      return SpreadGroup<T, N, Cut, Transposed12::src1>{
-          loadRows<T, N, packed, Cut, G>(groupOf<G>(src1, k, count), stride1)};
+      return SpreadObjects<Cut, transposed>{loadRows<T, N, packed, Cut>(groupOf<Cut>(src1, k, count), stride1)};
   };
   const auto secondOf = [&](int64_t k) __attribute__((always_inline)) {
     const int64_t stride1 = packed ? row : src2.stride1;
-    const auto group = groupOf<G>(src2, k, Single::src2 ? 1 : count);
+    const auto group = groupOf<Cut>(src2, k, Single::src2 ? 1 : count);
     if constexpr (Transposed12::src2)
-      return loadColumns<T, N, packed, Cut, G>(group, stride1);
+      return loadColumns<T, N, packed, Cut>(group, stride1);
     else
-      return loadRows<T, N, packed, Cut, G>(group, stride1);
+      return loadRows<T, N, packed, Cut>(group, stride1);
   };
   const auto multiplyAt = [&](int64_t k, const auto& a, const auto& b) __attribute__((always_inline)) {
-    multiplyGroup<T, N, packed, Cut>(a, b, groupOf<G>(dst, k, count), packed ? row : dst.stride1);
+    const int64_t stride1 = packed ? row : dst.stride1;
+    auto group = groupOf<Cut>(dst, k, count);
+    if constexpr (Cut::rowsAtOnce == 2)
+      group.of[1] += stride1;
+    multiplyGroup<T, N, packed, Cut>(a, b, group, stride1);
   };
   // A single operand stays in registers.
   if constexpr (Single::src1) {
     const auto a = firstOf(0);
-    for (int64_t k = 0; k < count; k += G)
+    for (int64_t k = 0; k < count; k += step)
       multiplyAt(k, a, secondOf(k));
   } else if constexpr (Single::src2) {
     const auto b = secondOf(0);
-    for (int64_t k = 0; k < count; k += G)
+    for (int64_t k = 0; k < count; k += step)
       multiplyAt(k, firstOf(k), b);
   } else {
-    for (int64_t k = 0; k < count; k += G)
+    for (int64_t k = 0; k < count; k += step)
       multiplyAt(k, firstOf(k), secondOf(k));
   }
 }
@@ -371,12 +433,13 @@ template <int N, class A, class B, class D> ZELM_NOINLINE void multiplyElements(
     ZELM_UNROLL
     for (int k = 0; k < N; ++k)
       first[k] = a.load(i, k);
+    typename D::Element sum[N];
+    sumProducts<N>(
+        sum, [&](int k) __attribute__((always_inline)) { return first[k]; },
+        [&](int k, int j) __attribute__((always_inline)) { return second(k, j); });
     ZELM_UNROLL
     for (int j = 0; j < N; ++j)
-      d.store(i, j,
-              sumOfProducts<N>(
-                  [&](int k) __attribute__((always_inline)) { return first[k]; },
-                  [&](int k) __attribute__((always_inline)) { return second(k, j); }));
+      d.store(i, j, sum[j]);
   }
 }
 
@@ -418,16 +481,15 @@ ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, co
       b.element[e] = loadNeighbours<T, Single::src2>(second.at[e], offset);
     ZELM_UNROLL
     for (int i = 0; i < N; ++i) {
-      Tile<Lanes<T>, 1, N> a;
-      ZELM_UNROLL
-      for (int l = 0; l < N; ++l)
-        a.element[l] = loadNeighbours<T, Single::src1>(first.at[i * N + l], offset);
+      Lanes<T> sum[N];
+      sumProducts<N>(
+          sum,
+          [&](int l)
+              __attribute__((always_inline)) { return loadNeighbours<T, Single::src1>(first.at[i * N + l], offset); },
+          [&](int l, int j) __attribute__((always_inline)) { return b(l, j); });
       ZELM_UNROLL
       for (int j = 0; j < N; ++j)
-        storeLanes(result.at[i * N + j] + offset,
-                   sumOfProducts<N>(
-                       [&](int l) __attribute__((always_inline)) { return a.element[l]; },
-                       [&](int l) __attribute__((always_inline)) { return b(l, j); }));
+        storeLanes(result.at[i * N + j] + offset, sum[j]);
     }
   }
 }
