@@ -15,8 +15,10 @@ namespace zelm {
 // ---------------------------------------------------------------------------------------------------------------------
 // What lanes and single elements have in common
 
-ZELM_INLINE bool anyLane(bool condition) { return condition; }
-template <class M> ZELM_INLINE bool anyLane(const M &mask) {
+ZELM_INLINE bool anyLane(bool condition) {
+  return condition;
+}
+template <class M> ZELM_INLINE bool anyLane(const M& mask) {
   constexpr bool wide = sizeof(mask[0]) == 8;
 #ifdef __AVX2__
   if constexpr (wide)
@@ -31,8 +33,12 @@ template <class M> ZELM_INLINE bool anyLane(const M &mask) {
 #endif
 }
 
-ZELM_INLINE float squareRoot(float x) { return __builtin_sqrtf(x); }
-ZELM_INLINE double squareRoot(double x) { return __builtin_sqrt(x); }
+ZELM_INLINE float squareRoot(float x) {
+  return __builtin_sqrtf(x);
+}
+ZELM_INLINE double squareRoot(double x) {
+  return __builtin_sqrt(x);
+}
 #ifdef __AVX2__
 ZELM_INLINE Lanes<float, 8> squareRoot(Lanes<float, 8> x) {
   return _mm256_sqrt_ps(x);
@@ -54,29 +60,15 @@ ZELM_INLINE Lanes<double, 2> squareRoot(Lanes<double, 2> x) {
 template <class V> struct Pair {
   V low;
   V high;
-  friend ZELM_INLINE Pair operator+(const Pair &a, const Pair &b) {
-    return {a.low + b.low, a.high + b.high};
-  }
-  friend ZELM_INLINE Pair operator-(const Pair &a, const Pair &b) {
-    return {a.low - b.low, a.high - b.high};
-  }
-  friend ZELM_INLINE Pair operator*(const Pair &a, const Pair &b) {
-    return {a.low * b.low, a.high * b.high};
-  }
-  friend ZELM_INLINE Pair operator/(const Pair &a, const Pair &b) {
-    return {a.low / b.low, a.high / b.high};
-  }
-  friend ZELM_INLINE Pair operator/(ElementOf<V> a, const Pair &b) {
-    return {a / b.low, a / b.high};
-  }
-  friend ZELM_INLINE Pair operator-(const Pair &a) { return {-a.low, -a.high}; }
+  friend ZELM_INLINE Pair operator+(const Pair& a, const Pair& b) { return {a.low + b.low, a.high + b.high}; }
+  friend ZELM_INLINE Pair operator-(const Pair& a, const Pair& b) { return {a.low - b.low, a.high - b.high}; }
+  friend ZELM_INLINE Pair operator*(const Pair& a, const Pair& b) { return {a.low * b.low, a.high * b.high}; }
+  friend ZELM_INLINE Pair operator/(const Pair& a, const Pair& b) { return {a.low / b.low, a.high / b.high}; }
+  friend ZELM_INLINE Pair operator/(ElementOf<V> a, const Pair& b) { return {a / b.low, a / b.high}; }
+  friend ZELM_INLINE Pair operator-(const Pair& a) { return {-a.low, -a.high}; }
   // The lanes in which it holds in either vector.
-  friend ZELM_INLINE auto operator>(const Pair &a, const Pair &b) {
-    return (a.low > b.low) | (a.high > b.high);
-  }
-  friend ZELM_INLINE auto operator>=(const Pair &a, const Pair &b) {
-    return (a.low >= b.low) | (a.high >= b.high);
-  }
+  friend ZELM_INLINE auto operator>(const Pair& a, const Pair& b) { return (a.low > b.low) | (a.high > b.high); }
+  friend ZELM_INLINE auto operator>=(const Pair& a, const Pair& b) { return (a.low >= b.low) | (a.high >= b.high); }
 };
 template <class V> struct LaneTraits<Pair<V>> {
   using Element = ElementOf<V>;
@@ -85,7 +77,7 @@ template <class V> struct LaneTraits<Pair<V>> {
 template <class> struct VectorOfPair;
 template <class V> struct VectorOfPair<Pair<V>> { using type = V; };
 
-template <class V> ZELM_INLINE Pair<V> squareRoot(const Pair<V> &x) {
+template <class V> ZELM_INLINE Pair<V> squareRoot(const Pair<V>& x) {
   return {squareRoot(x.low), squareRoot(x.high)};
 }
 
@@ -103,7 +95,7 @@ template <class L> ZELM_INLINE L everyLane(ElementOf<L> value) {
 // One element of each object
 
 // address(w) is the element's in lane w.
-template <class T, class A> ZELM_INLINE Lanes<T> gatherLanes(const A &address) {
+template <class T, class A> ZELM_INLINE Lanes<T> gatherLanes(const A& address) {
   const auto at = [&](int w) ZELM_BODY { return loadElement<T>(address(w)); };
   if constexpr (laneCount<T> == 2)
     return Lanes<T>{at(0), at(1)};
@@ -113,25 +105,18 @@ template <class T, class A> ZELM_INLINE Lanes<T> gatherLanes(const A &address) {
     return Lanes<T>{at(0), at(1), at(2), at(3), at(4), at(5), at(6), at(7)};
 }
 
-template <class T, class A>
-ZELM_INLINE void scatterLanes(const A &address, const Lanes<T> &lanes) {
+template <class T, class A> ZELM_INLINE void scatterLanes(const A& address, const Lanes<T>& lanes) {
   ZELM_UNROLL
   for (int w = 0; w < laneCount<T>; ++w)
     storeElement<T>(address(w), lanes[w]);
 }
 
 // Two neighbouring elements of each object, eight bytes at a time.
-template <class C>
-ZELM_INLINE void loadPairs(const ObjectAddresses<float, C> &x, int64_t offset,
-                           Lanes<float> *lanes) {
-  const auto at = [&](int w) ZELM_BODY {
-    return loadElement<double>(x.of[w] + offset);
-  };
+template <class C> ZELM_INLINE void loadPairs(const ObjectAddresses<float, C>& x, int64_t offset, Lanes<float>* lanes) {
+  const auto at = [&](int w) ZELM_BODY { return loadElement<double>(x.of[w] + offset); };
 #ifdef __AVX2__
-  const auto p =
-      reinterpret_cast<Lanes<float>>(Lanes<double>{at(0), at(1), at(4), at(5)});
-  const auto q =
-      reinterpret_cast<Lanes<float>>(Lanes<double>{at(2), at(3), at(6), at(7)});
+  const auto p = reinterpret_cast<Lanes<float>>(Lanes<double>{at(0), at(1), at(4), at(5)});
+  const auto q = reinterpret_cast<Lanes<float>>(Lanes<double>{at(2), at(3), at(6), at(7)});
   lanes[0] = __builtin_shufflevector(p, q, 0, 2, 8, 10, 4, 6, 12, 14);
   lanes[1] = __builtin_shufflevector(p, q, 1, 3, 9, 11, 5, 7, 13, 15);
 #else
@@ -141,25 +126,19 @@ ZELM_INLINE void loadPairs(const ObjectAddresses<float, C> &x, int64_t offset,
   lanes[1] = __builtin_shufflevector(p, q, 1, 3, 5, 7);
 #endif
 }
-ZELM_INLINE void storePairs(const ObjectAddresses<float, char> &x,
-                            int64_t offset, const Lanes<float> *lanes) {
-  const auto store = [&](int w, double pair) ZELM_BODY {
-    storeElement<double>(x.of[w] + offset, pair);
-  };
+ZELM_INLINE void storePairs(const ObjectAddresses<float, char>& x, int64_t offset, const Lanes<float>* lanes) {
+  const auto store = [&](int w, double pair) ZELM_BODY { storeElement<double>(x.of[w] + offset, pair); };
 #ifdef __AVX2__
-  const auto p = reinterpret_cast<Lanes<double>>(
-      __builtin_shufflevector(lanes[0], lanes[1], 0, 8, 1, 9, 4, 12, 5, 13));
-  const auto q = reinterpret_cast<Lanes<double>>(
-      __builtin_shufflevector(lanes[0], lanes[1], 2, 10, 3, 11, 6, 14, 7, 15));
+  const auto p = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 0, 8, 1, 9, 4, 12, 5, 13));
+  const auto q =
+      reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 2, 10, 3, 11, 6, 14, 7, 15));
   store(4, p[2]);
   store(5, p[3]);
   store(6, q[2]);
   store(7, q[3]);
 #else
-  const auto p = reinterpret_cast<Lanes<double>>(
-      __builtin_shufflevector(lanes[0], lanes[1], 0, 4, 1, 5));
-  const auto q = reinterpret_cast<Lanes<double>>(
-      __builtin_shufflevector(lanes[0], lanes[1], 2, 6, 3, 7));
+  const auto p = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 0, 4, 1, 5));
+  const auto q = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 2, 6, 3, 7));
 #endif
   store(0, p[0]);
   store(1, p[1]);
@@ -183,49 +162,37 @@ template <class T, class ColumnStep> struct StridedBlock {
 
   // Whether rows of this width follow each other without gaps, and so are one
   // run.
-  ZELM_INLINE bool gapless(int width) const {
-    return unit && rowStep == width * elementBytes;
-  }
+  ZELM_INLINE bool gapless(int width) const { return unit && rowStep == width * elementBytes; }
 
-  template <class N>
-  ZELM_INLINE void load(int i, int j, N n, Lanes<Element> *lanes) const {
+  template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     const int64_t offset = i * rowStep + j * columnStep;
     if constexpr (unit && isFixed<N>)
       loadFixed(offset, n, lanes);
     else if constexpr (unit)
       loadUnit(offset, n, lanes);
     else
-      ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
-        lanes[e] = gather(offset + e * columnStep);
-      });
+      ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY { lanes[e] = gather(offset + e * columnStep); });
   }
 
-  template <class N>
-  ZELM_INLINE void store(int i, int j, N n, const Lanes<Element> *lanes) const {
+  template <class N> ZELM_INLINE void store(int i, int j, N n, const Lanes<Element>* lanes) const {
     const int64_t offset = i * rowStep + j * columnStep;
     if constexpr (unit && isFixed<N>)
       storeFixed(offset, n, lanes);
     else if constexpr (unit)
       storeUnit(offset, n, lanes);
     else
-      ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
-        scatter(offset + e * columnStep, lanes[e]);
-      });
+      ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY { scatter(offset + e * columnStep, lanes[e]); });
   }
 
 private:
   ZELM_INLINE Lanes<Element> gather(int64_t offset) const {
-    return gatherLanes<Element>(
-        [&](int w) ZELM_BODY { return objects.of[w] + offset; });
+    return gatherLanes<Element>([&](int w) ZELM_BODY { return objects.of[w] + offset; });
   }
-  ZELM_INLINE void scatter(int64_t offset, const Lanes<Element> &lanes) const {
-    scatterLanes<Element>(
-        [&](int w) ZELM_BODY { return objects.of[w] + offset; }, lanes);
+  ZELM_INLINE void scatter(int64_t offset, const Lanes<Element>& lanes) const {
+    scatterLanes<Element>([&](int w) ZELM_BODY { return objects.of[w] + offset; }, lanes);
   }
 
-  template <int N>
-  ZELM_INLINE void loadFixed(int64_t offset, Fixed<N>,
-                             Lanes<Element> *lanes) const {
+  template <int N> ZELM_INLINE void loadFixed(int64_t offset, Fixed<N>, Lanes<Element>* lanes) const {
     if constexpr (N == 1)
       lanes[0] = gather(offset);
     else if constexpr (N == 2 && chunk == 4)
@@ -233,9 +200,7 @@ private:
     else
       loadRun<N, Element>(objects, offset, lanes);
   }
-  template <int N>
-  ZELM_INLINE void storeFixed(int64_t offset, Fixed<N>,
-                              const Lanes<Element> *lanes) const {
+  template <int N> ZELM_INLINE void storeFixed(int64_t offset, Fixed<N>, const Lanes<Element>* lanes) const {
     if constexpr (N == 1)
       scatter(offset, lanes[0]);
     else if constexpr (N == 2 && chunk == 4)
@@ -244,8 +209,7 @@ private:
       storeRun<N, Element>(objects, offset, lanes);
   }
 
-  ZELM_INLINE void loadUnit(int64_t offset, int n,
-                            Lanes<Element> *lanes) const {
+  ZELM_INLINE void loadUnit(int64_t offset, int n, Lanes<Element>* lanes) const {
     if (n < chunk) {
       for (int e = 0; e < n; ++e)
         lanes[e] = gather(offset + e * elementBytes);
@@ -253,12 +217,10 @@ private:
     }
     for (int e = 0; e < n; e += chunk) {
       const int from = e + chunk <= n ? e : n - chunk;
-      loadRun<chunk, Element>(objects, offset + from * elementBytes,
-                              lanes + from);
+      loadRun<chunk, Element>(objects, offset + from * elementBytes, lanes + from);
     }
   }
-  ZELM_INLINE void storeUnit(int64_t offset, int n,
-                             const Lanes<Element> *lanes) const {
+  ZELM_INLINE void storeUnit(int64_t offset, int n, const Lanes<Element>* lanes) const {
     if (n < chunk) {
       for (int e = 0; e < n; ++e)
         scatter(offset + e * elementBytes, lanes[e]);
@@ -266,8 +228,7 @@ private:
     }
     for (int e = 0; e < n; e += chunk) {
       const int from = e + chunk <= n ? e : n - chunk;
-      storeRun<chunk, Element>(objects, offset + from * elementBytes,
-                               lanes + from);
+      storeRun<chunk, Element>(objects, offset + from * elementBytes, lanes + from);
     }
   }
 };
@@ -275,27 +236,21 @@ private:
 // Pointer layout, any stride0.
 template <class T> struct PositionBlock {
   using Element = std::remove_const_t<T>;
-  T *const *list;
+  T* const* list;
   int64_t rowLength;
   int64_t offset[laneCount<Element>];
 
   static constexpr bool gapless(int) { return false; }
-  template <class N>
-  ZELM_INLINE void load(int i, int j, N n, Lanes<Element> *lanes) const {
+  template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
-      auto *const position =
-          reinterpret_cast<const char *>(list[i * rowLength + j + e]);
-      lanes[e] = gatherLanes<Element>(
-          [&](int w) ZELM_BODY { return position + offset[w]; });
+      auto* const position = reinterpret_cast<const char*>(list[i * rowLength + j + e]);
+      lanes[e] = gatherLanes<Element>([&](int w) ZELM_BODY { return position + offset[w]; });
     });
   }
-  template <class N>
-  ZELM_INLINE void store(int i, int j, N n, const Lanes<Element> *lanes) const {
+  template <class N> ZELM_INLINE void store(int i, int j, N n, const Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
-      auto *const position =
-          reinterpret_cast<char *>(list[i * rowLength + j + e]);
-      scatterLanes<Element>(
-          [&](int w) ZELM_BODY { return position + offset[w]; }, lanes[e]);
+      auto* const position = reinterpret_cast<char*>(list[i * rowLength + j + e]);
+      scatterLanes<Element>([&](int w) ZELM_BODY { return position + offset[w]; }, lanes[e]);
     });
   }
 };
@@ -304,23 +259,19 @@ template <class T> struct PositionBlock {
 // objects are neighbours.
 template <class T> struct NeighbourBlock {
   using Element = std::remove_const_t<T>;
-  T *const *list;
+  T* const* list;
   int64_t rowLength;
   int64_t offset;
 
   static constexpr bool gapless(int) { return false; }
-  template <class N>
-  ZELM_INLINE void load(int i, int j, N n, Lanes<Element> *lanes) const {
+  template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
-      lanes[e] = loadLanes<Element>(
-          reinterpret_cast<const char *>(list[i * rowLength + j + e]) + offset);
+      lanes[e] = loadLanes<Element>(reinterpret_cast<const char*>(list[i * rowLength + j + e]) + offset);
     });
   }
-  template <class N>
-  ZELM_INLINE void store(int i, int j, N n, const Lanes<Element> *lanes) const {
+  template <class N> ZELM_INLINE void store(int i, int j, N n, const Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
-      storeLanes(reinterpret_cast<char *>(list[i * rowLength + j + e]) + offset,
-                 lanes[e]);
+      storeLanes(reinterpret_cast<char*>(list[i * rowLength + j + e]) + offset, lanes[e]);
     });
   }
 };
@@ -336,12 +287,8 @@ template <bool Neighbours> struct Block {
   int64_t first;
   int last;
   // The two vectors of a block of W objects each.
-  template <int W> Block low() const {
-    return {first, last < W ? last : W - 1};
-  }
-  template <int W> Block high() const {
-    return {last < W ? first + last : first + W, last < W ? 0 : last - W};
-  }
+  template <int W> Block low() const { return {first, last < W ? last : W - 1}; }
+  template <int W> Block high() const { return {last < W ? first + last : first + W, last < W ? 0 : last - W}; }
 };
 
 template <class> constexpr bool isPointerLayout = false;
@@ -351,31 +298,25 @@ template <class T> constexpr bool isPointerLayout<VectorP<T>> = true;
 template <class T> constexpr bool isPointerLayout<VectorsP<T>> = true;
 
 template <class T, class RowStep, class Step>
-ZELM_INLINE StridedBlock<T, Step>
-blockOf(const StridedMatrixView<T, RowStep, Step> &view, int64_t) {
+ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedMatrixView<T, RowStep, Step>& view, int64_t) {
   return {{}, view.rowStep, view.columnStep};
 }
 template <class T, class Step>
-ZELM_INLINE StridedBlock<T, Step>
-blockOf(const StridedVectorView<T, Step> &view, int64_t) {
+ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedVectorView<T, Step>& view, int64_t) {
   return {{}, 0, view.step};
 }
-template <class T>
-ZELM_INLINE PositionBlock<T> blockOf(const PointerMatrixView<T> &view,
-                                     int64_t rowLength) {
+template <class T> ZELM_INLINE PositionBlock<T> blockOf(const PointerMatrixView<T>& view, int64_t rowLength) {
   return {view.list, rowLength, {}};
 }
-template <class T>
-ZELM_INLINE PositionBlock<T> blockOf(const PointerVectorView<T> &view,
-                                     int64_t) {
+template <class T> ZELM_INLINE PositionBlock<T> blockOf(const PointerVectorView<T>& view, int64_t) {
   return {view.list, 0, {}};
 }
 
 // The kind of block that its neighbours make, in the pointer layout.
 struct NoNeighbours {};
-template <class View> NoNeighbours neighboursOf(const View &);
-template <class T> NeighbourBlock<T> neighboursOf(const PointerMatrixView<T> &);
-template <class T> NeighbourBlock<T> neighboursOf(const PointerVectorView<T> &);
+template <class View> NoNeighbours neighboursOf(const View&);
+template <class T> NeighbourBlock<T> neighboursOf(const PointerMatrixView<T>&);
+template <class T> NeighbourBlock<T> neighboursOf(const PointerVectorView<T>&);
 
 // One operand's blocks, one after the other in the same place: only the
 // addresses change. (Blocks that were made anew would be copied, in pieces of
@@ -383,33 +324,27 @@ template <class T> NeighbourBlock<T> neighboursOf(const PointerVectorView<T> &);
 template <class Operand, class View> class BlocksOf {
 public:
   // view(k) is object k.
-  ZELM_INLINE BlocksOf(const Operand &operand, int64_t rowLength,
-                       const View &view)
+  ZELM_INLINE BlocksOf(const Operand& operand, int64_t rowLength, const View& view)
       : operand_(operand), view_(view), block_(blockOf(view(0), rowLength)) {}
 
-  template <class B> ZELM_INLINE const auto &at(const B &block) {
+  template <class B> ZELM_INLINE const auto& at(const B& block) {
     if constexpr (isPointerLayout<Operand>) {
       if constexpr (B::neighbours) {
-        neighbours_ = {block_.list, block_.rowLength,
-                       operand_.offset + block.first * operand_.stride0};
+        neighbours_ = {block_.list, block_.rowLength, operand_.offset + block.first * operand_.stride0};
         return neighbours_;
       } else {
-        place(block, block_.offset, [&](int64_t k) ZELM_BODY {
-          return operand_.offset + k * operand_.stride0;
-        });
+        place(block, block_.offset, [&](int64_t k) ZELM_BODY { return operand_.offset + k * operand_.stride0; });
         return block_;
       }
     } else {
-      place(block, block_.objects.of,
-            [&](int64_t k) ZELM_BODY { return view_(k).origin; });
+      place(block, block_.objects.of, [&](int64_t k) ZELM_BODY { return view_(k).origin; });
       return block_;
     }
   }
 
 private:
   template <class B, class Place, int W, class F>
-  ZELM_INLINE static void place(const B &block, Place (&places)[W],
-                                const F &of) {
+  ZELM_INLINE static void place(const B& block, Place (&places)[W], const F& of) {
     if (block.last == W - 1) {
       ZELM_UNROLL
       for (int w = 0; w < W; ++w)
@@ -420,27 +355,23 @@ private:
     }
   }
 
-  const Operand &operand_;
+  const Operand& operand_;
   View view_;
   decltype(blockOf(std::declval<View>()(0), 0)) block_;
   decltype(neighboursOf(std::declval<View>()(0))) neighbours_{};
 };
 
 // A matrix operand; rowLength is the width of its rows as stored.
-template <class Operand>
-ZELM_INLINE auto matrixBlocks(const Operand &x, int64_t rowLength) {
-  return BlocksOf(x, rowLength, [&x, rowLength](int64_t k) ZELM_BODY {
-    return x.object(k, rowLength);
-  });
+template <class Operand> ZELM_INLINE auto matrixBlocks(const Operand& x, int64_t rowLength) {
+  return BlocksOf(x, rowLength, [&x, rowLength](int64_t k) ZELM_BODY { return x.object(k, rowLength); });
 }
-template <class Operand> ZELM_INLINE auto vectorBlocks(const Operand &x) {
+template <class Operand> ZELM_INLINE auto vectorBlocks(const Operand& x) {
   return BlocksOf(x, 0, [&x](int64_t k) ZELM_BODY { return x.object(k); });
 }
 
-template <class Operand> ZELM_INLINE bool areNeighbours(const Operand &x) {
+template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
   if constexpr (isPointerLayout<Operand>)
-    return x.objectStride() ==
-           static_cast<int64_t>(sizeof(typename Operand::Element));
+    return x.objectStride() == static_cast<int64_t>(sizeof(typename Operand::Element));
   else
     return false;
 }
@@ -451,9 +382,7 @@ template <class Operand> ZELM_INLINE bool areNeighbours(const Operand &x) {
 // object, as does a lone object. single returns a status; the first failure
 // ends the batch.
 template <int Width, bool HasNeighbours, class ForLanes, class ForSingle>
-ZELM_INLINE ZelStatus forBlocks(int32_t count, bool neighbours,
-                                const ForLanes &lanes,
-                                const ForSingle &single) {
+ZELM_INLINE ZelStatus forBlocks(int32_t count, bool neighbours, const ForLanes& lanes, const ForSingle& single) {
   constexpr int W = Width;
   for (int64_t k = 0; k < count; k += W) {
     const int last = count - k < W ? static_cast<int>(count - k) - 1 : W - 1;

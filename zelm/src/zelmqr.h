@@ -36,21 +36,19 @@ namespace zelm {
 // Lanes or, as the caller's scratch, elements at any address; the two vectors
 // of a pair each in its own place.
 template <class L> struct Column {
-  L *element;
+  L* element;
   ZELM_INLINE L load(int i) const {
     L value;
     std::memcpy(&value, element + i, sizeof value);
     return value;
   }
-  ZELM_INLINE void store(int i, L value) const {
-    std::memcpy(element + i, &value, sizeof value);
-  }
+  ZELM_INLINE void store(int i, L value) const { std::memcpy(element + i, &value, sizeof value); }
 };
 template <class V> struct Column<Pair<V>> {
-  V *low;
-  V *high;
+  V* low;
+  V* high;
   ZELM_INLINE Pair<V> load(int i) const { return {low[i], high[i]}; }
-  ZELM_INLINE void store(int i, const Pair<V> &value) const {
+  ZELM_INLINE void store(int i, const Pair<V>& value) const {
     low[i] = value.low;
     high[i] = value.high;
   }
@@ -60,17 +58,12 @@ template <class V> struct Column<Pair<V>> {
 template <class L, class Width> struct Rectangle {
   Column<L> elements;
   Width width;
-  ZELM_INLINE L load(int i, int j) const {
-    return elements.load(i * width + j);
-  }
-  ZELM_INLINE void store(int i, int j, const L &value) const {
-    elements.store(i * width + j, value);
-  }
+  ZELM_INLINE L load(int i, int j) const { return elements.load(i * width + j); }
+  ZELM_INLINE void store(int i, int j, const L& value) const { elements.store(i * width + j, value); }
 };
 
 // The last column of a square matrix has no reflection, and so no test.
-template <class Width, class Height>
-ZELM_INLINE constexpr auto qrSteps(Width width, Height height) {
+template <class Width, class Height> ZELM_INLINE constexpr auto qrSteps(Width width, Height height) {
   if constexpr (isFixed<Width> && isFixed<Height>)
     return Fixed<(width < height ? width : width - 1)>{};
   else
@@ -81,71 +74,61 @@ ZELM_INLINE constexpr auto qrSteps(Width width, Height height) {
 template <class L> ZELM_INLINE L signedNorm(L head, L norm) {
   return head > L{} ? norm : -norm;
 }
-template <class V>
-ZELM_INLINE Pair<V> signedNorm(const Pair<V> &head, const Pair<V> &norm) {
+template <class V> ZELM_INLINE Pair<V> signedNorm(const Pair<V>& head, const Pair<V>& norm) {
   return {signedNorm(head.low, norm.low), signedNorm(head.high, norm.high)};
 }
 
 // The limit of the squared norm; exact in both types, so that the comparison in
 // double is one in the element type.
-template <class T>
-constexpr T qrLimit = sizeof(T) == 4 ? T(0x1p-23) : T(0x1p-52);
+template <class T> constexpr T qrLimit = sizeof(T) == 4 ? T(0x1p-23) : T(0x1p-52);
 
 // Reduces a to its factored form; v is room for a reflection vector. False,
 // with the columns so far finished and the rest partly reduced, if the limit
 // exceeds a squared norm in any lane. A NaN passes.
 template <class L, class Matrix, class Vector, class Width, class Height>
-ZELM_INLINE bool qrReduce(const Matrix &a, const Vector &v, Width width,
-                          Height height) {
+ZELM_INLINE bool qrReduce(const Matrix& a, const Vector& v, Width width, Height height) {
   using T = ElementOf<L>;
-  return whileAscending(
-      Fixed<0>{}, qrSteps(width, height), [&](auto k) ZELM_BODY {
-        L norm2{};
-        ascending(k, height, [&](auto i) ZELM_BODY {
-          const L x = a.load(i, k);
-          norm2 = norm2 + x * x;
-        });
-        if (anyLane(everyLane<L>(qrLimit<T>) > norm2))
-          return false;
-        // The correctly rounded root, which is also the root in double rounded
-        // to the element type.
-        const L norm = squareRoot(norm2);
-        const L head = a.load(k, k);
-        const L p = head + signedNorm(head, norm);
-        const L r = 1 / p;
-        L w = everyLane<L>(1);
-        ascending(next(k), height, [&](auto i) ZELM_BODY {
-          const L x = a.load(i, k) * r;
-          v.store(i, x);
-          w = w + x * x;
-        });
-        const L beta = -2 / w;
-        L s = head;
-        ascending(next(k), height,
-                  [&](auto i) ZELM_BODY { s = s + a.load(i, k) * v.load(i); });
-        a.store(k, k, s * beta + head);
-        // Below the diagonal the column becomes the tail.
-        ascending(next(k), height,
-                  [&](auto i) ZELM_BODY { a.store(i, k, v.load(i)); });
-        ascending(next(k), width, [&](auto j) ZELM_BODY {
-          const L top = a.load(k, j);
-          L sum = top;
-          ascending(next(k), height, [&](auto i) ZELM_BODY {
-            sum = sum + a.load(i, j) * v.load(i);
-          });
-          sum = sum * beta;
-          a.store(k, j, sum + top);
-          ascending(next(k), height, [&](auto i) ZELM_BODY {
-            a.store(i, j, v.load(i) * sum + a.load(i, j));
-          });
-        });
-        return true;
-      });
+  return whileAscending(Fixed<0>{}, qrSteps(width, height), [&](auto k) ZELM_BODY {
+    L norm2{};
+    ascending(k, height, [&](auto i) ZELM_BODY {
+      const L x = a.load(i, k);
+      norm2 = norm2 + x * x;
+    });
+    if (anyLane(everyLane<L>(qrLimit<T>) > norm2))
+      return false;
+    // The correctly rounded root, which is also the root in double rounded
+    // to the element type.
+    const L norm = squareRoot(norm2);
+    const L head = a.load(k, k);
+    const L p = head + signedNorm(head, norm);
+    const L r = 1 / p;
+    L w = everyLane<L>(1);
+    ascending(next(k), height, [&](auto i) ZELM_BODY {
+      const L x = a.load(i, k) * r;
+      v.store(i, x);
+      w = w + x * x;
+    });
+    const L beta = -2 / w;
+    L s = head;
+    ascending(next(k), height, [&](auto i) ZELM_BODY { s = s + a.load(i, k) * v.load(i); });
+    a.store(k, k, s * beta + head);
+    // Below the diagonal the column becomes the tail.
+    ascending(next(k), height, [&](auto i) ZELM_BODY { a.store(i, k, v.load(i)); });
+    ascending(next(k), width, [&](auto j) ZELM_BODY {
+      const L top = a.load(k, j);
+      L sum = top;
+      ascending(next(k), height, [&](auto i) ZELM_BODY { sum = sum + a.load(i, j) * v.load(i); });
+      sum = sum * beta;
+      a.store(k, j, sum + top);
+      ascending(next(k), height, [&](auto i) ZELM_BODY { a.store(i, j, v.load(i) * sum + a.load(i, j)); });
+    });
+    return true;
+  });
 }
 
 // The denominator of beta(k).
 template <class L, class Matrix, class Index, class Height>
-ZELM_INLINE L qrDenominator(const Matrix &a, Index k, Height height) {
+ZELM_INLINE L qrDenominator(const Matrix& a, Index k, Height height) {
   L w = everyLane<L>(1);
   ascending(next(k), height, [&](auto i) ZELM_BODY {
     const L x = a.load(i, k);
@@ -156,28 +139,22 @@ ZELM_INLINE L qrDenominator(const Matrix &a, Index k, Height height) {
 
 // Turns the right-hand side c by the reflections and solves with R; x may be c.
 // denominator(k) is that of beta(k).
-template <class L, class Matrix, class Denominator, class Vector, class Result,
-          class Width, class Height>
-ZELM_INLINE void qrSolve(const Matrix &a, const Denominator &denominator,
-                         const Vector &c, const Result &x, Width width,
+template <class L, class Matrix, class Denominator, class Vector, class Result, class Width, class Height>
+ZELM_INLINE void qrSolve(const Matrix& a, const Denominator& denominator, const Vector& c, const Result& x, Width width,
                          Height height) {
   ascending(Fixed<0>{}, qrSteps(width, height), [&](auto k) ZELM_BODY {
     const L top = c.load(k);
     L s = top;
-    ascending(next(k), height,
-              [&](auto i) ZELM_BODY { s = s + c.load(i) * a.load(i, k); });
+    ascending(next(k), height, [&](auto i) ZELM_BODY { s = s + c.load(i) * a.load(i, k); });
     s = s * (-2 / denominator(k));
     c.store(k, top + s);
-    ascending(next(k), height, [&](auto i) ZELM_BODY {
-      c.store(i, a.load(i, k) * s + c.load(i));
-    });
+    ascending(next(k), height, [&](auto i) ZELM_BODY { c.store(i, a.load(i, k) * s + c.load(i)); });
   });
   const auto last = previous(width);
   x.store(last, c.load(last) / a.load(last, last));
   descending(Fixed<0>{}, last, [&](auto i) ZELM_BODY {
     L t{};
-    ascending(next(i), width,
-              [&](auto j) ZELM_BODY { t = t + a.load(i, j) * x.load(j); });
+    ascending(next(i), width, [&](auto j) ZELM_BODY { t = t + a.load(i, j) * x.load(j); });
     x.store(i, (c.load(i) - t) / a.load(i, i));
   });
 }
@@ -198,8 +175,7 @@ template <class L> struct QrScratch {
 
 // Calls body(width, height), with sizes known to the compiler where there is
 // straight-line code.
-template <class F>
-ZELM_INLINE auto forQrShape(int width, int height, const F &body) {
+template <class F> ZELM_INLINE auto forQrShape(int width, int height, const F& body) {
   if (width == 3 && height == 6)
     return body(Fixed<3>{}, Fixed<6>{});
   if (width != height)
@@ -221,19 +197,15 @@ ZELM_INLINE auto forQrShape(int width, int height, const F &body) {
 // Two vectors of objects at a time, so that one chain of roots, divisions and
 // sums fills the gaps of the other.
 template <class V>
-__attribute__((noinline)) bool
-qrReduceLanes(QrScratch<V> &low, QrScratch<V> &high, int width, int height) {
+__attribute__((noinline)) bool qrReduceLanes(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
   using L = Pair<V>;
   return forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
-    return qrReduce<L>(
-        Rectangle<L, decltype(w)>{{low.element, high.element}, w},
-        Column<L>{low.vector, high.vector}, w, h);
+    return qrReduce<L>(Rectangle<L, decltype(w)>{{low.element, high.element}, w}, Column<L>{low.vector, high.vector}, w,
+                       h);
   });
 }
 
-template <class V>
-__attribute__((noinline)) void qrDenominators(QrScratch<V> &scratch, int width,
-                                              int height) {
+template <class V> __attribute__((noinline)) void qrDenominators(QrScratch<V>& scratch, int width, int height) {
   const Rectangle<V, int> a{{scratch.element}, width};
   for (int k = 0; k < qrSteps(width, height); ++k)
     scratch.denominator[k] = qrDenominator<V>(a, k, height);
@@ -243,12 +215,10 @@ __attribute__((noinline)) void qrDenominators(QrScratch<V> &scratch, int width,
 // Each: every lane has its own matrix; otherwise low has the one matrix and its
 // denominators.
 template <bool Each, class V>
-__attribute__((noinline)) void
-qrSolveLanes(QrScratch<V> &low, QrScratch<V> &high, int width, int height) {
+__attribute__((noinline)) void qrSolveLanes(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
   using L = Pair<V>;
   forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
-    const Rectangle<L, decltype(w)> a{
-        {low.element, Each ? high.element : low.element}, w};
+    const Rectangle<L, decltype(w)> a{{low.element, Each ? high.element : low.element}, w};
     const Column<L> c{low.vector, high.vector};
     const auto denominator = [&](auto k) ZELM_BODY {
       if constexpr (Each)
@@ -261,16 +231,14 @@ qrSolveLanes(QrScratch<V> &low, QrScratch<V> &high, int width, int height) {
 }
 
 template <class Objects, class L>
-__attribute__((noinline)) void loadRectangle(const Objects &objects, L *lanes,
-                                             int width, int height) {
+__attribute__((noinline)) void loadRectangle(const Objects& objects, L* lanes, int width, int height) {
   if (objects.gapless(width))
     return objects.load(0, 0, width * height, lanes);
   for (int i = 0; i < height; ++i)
     objects.load(i, 0, width, lanes + i * width);
 }
 template <class Objects, class L>
-__attribute__((noinline)) void
-storeRectangle(const Objects &objects, const L *lanes, int width, int height) {
+__attribute__((noinline)) void storeRectangle(const Objects& objects, const L* lanes, int width, int height) {
   if (objects.gapless(width))
     return objects.store(0, 0, width * height, lanes);
   for (int i = 0; i < height; ++i)
@@ -283,34 +251,27 @@ storeRectangle(const Objects &objects, const L *lanes, int width, int height) {
 struct AnyShape {};
 
 template <class T, class Source, class Result>
-ZELM_INLINE ZelStatus qrFactor(const Source &src, T *buffer, const Result &dst,
-                               int32_t width, int32_t height) {
+ZELM_INLINE ZelStatus qrFactor(const Source& src, T* buffer, const Result& dst, int32_t width, int32_t height) {
   for (int32_t i = 0; i < height; ++i)
     for (int32_t j = 0; j < width; ++j)
       dst.store(i, j, src.load(i, j));
-  return qrReduce<T>(dst, Column<T>{buffer}, static_cast<int>(width),
-                     static_cast<int>(height))
-             ? zelStatusOk
-             : zelStatusDivideByZero;
+  return qrReduce<T>(dst, Column<T>{buffer}, static_cast<int>(width), static_cast<int>(height)) ? zelStatusOk
+                                                                                                : zelStatusDivideByZero;
 }
 
 // Single objects.
 template <class T, class Source, class Result>
-ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source &src,
-                                const Buffer<T> &buffer, const Result &dst,
-                                int32_t width, int32_t height) {
-  return qrFactor<T>(src.object(0, width), buffer.pointer, dst.object(0, width),
-                     width, height);
+ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
+                                int32_t height) {
+  return qrFactor<T>(src.object(0, width), buffer.pointer, dst.object(0, width), width, height);
 }
 
 // Batches.
 template <class T, class Source, class Result>
-ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source &src,
-                                const Buffer<T> &buffer, const Result &dst,
-                                int32_t width, int32_t height, int32_t count) {
+ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
+                                int32_t height, int32_t count) {
   const auto single = [&](int64_t k) ZELM_BODY {
-    return qrFactor<T>(src.object(k, width), buffer.pointer,
-                       dst.object(k, width), width, height);
+    return qrFactor<T>(src.object(k, width), buffer.pointer, dst.object(k, width), width, height);
   };
   const bool inLanes = count > 1 && qrFitsLanes(width, height);
   constexpr int W = laneCount<T>;
@@ -344,39 +305,33 @@ ZELM_INLINE bool qrIsSmallSquare(int32_t width, int32_t height) {
 }
 
 template <class T, class Matrix, class Right, class Result>
-ZELM_INLINE void qrSolution(const Matrix &a, T *buffer, const Right &right,
-                            const Result &dst, int32_t width, int32_t height) {
+ZELM_INLINE void qrSolution(const Matrix& a, T* buffer, const Right& right, const Result& dst, int32_t width,
+                            int32_t height) {
   T local[6];
-  T *const work = qrIsSmallSquare(width, height) ? local : buffer;
+  T* const work = qrIsSmallSquare(width, height) ? local : buffer;
   const Column<T> c{work};
   for (int32_t i = 0; i < height; ++i)
     c.store(i, right.load(i));
   qrSolve<T>(
-      a, [&](int k) ZELM_BODY { return qrDenominator<T>(a, k, height); }, c,
-      dst, static_cast<int>(width), static_cast<int>(height));
+      a, [&](int k) ZELM_BODY { return qrDenominator<T>(a, k, height); }, c, dst, static_cast<int>(width),
+      static_cast<int>(height));
 }
 
 // Single objects.
 template <class T, class Matrix, class Right, class Result>
-ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix &src1,
-                                  const Buffer<T> &buffer, const Right &src2,
-                                  const Result &dst, int32_t width,
-                                  int32_t height) {
-  qrSolution<T>(src1.object(0, width), buffer.pointer, src2.object(0),
-                dst.object(0), width, height);
+ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
+                                  const Result& dst, int32_t width, int32_t height) {
+  qrSolution<T>(src1.object(0, width), buffer.pointer, src2.object(0), dst.object(0), width, height);
   return zelStatusOk;
 }
 
 // Batches.
 template <class T, class Matrix, class Right, class Result>
-ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix &src1,
-                                  const Buffer<T> &buffer, const Right &src2,
-                                  const Result &dst, int32_t width,
-                                  int32_t height, int32_t count) {
+ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
+                                  const Result& dst, int32_t width, int32_t height, int32_t count) {
   constexpr bool each = Matrix::isArray;
   const auto single = [&](int64_t k) ZELM_BODY {
-    qrSolution<T>(src1.object(k, width), buffer.pointer, src2.object(k),
-                  dst.object(k), width, height);
+    qrSolution<T>(src1.object(k, width), buffer.pointer, src2.object(k), dst.object(k), width, height);
     return zelStatusOk;
   };
   const bool inLanes = count > 1 && qrFitsLanes(width, height);
