@@ -25,11 +25,9 @@ ZELM_DECLARE(ownzelmLUDecomp_m_64f_P_com,  LUDECOMP_M_P, ANY,  double);
 namespace zelm {
 
 // Sides 3 to 6: singular if the limit is greater than the magnitude.
-template <class T> constexpr T fixedLimit = T(0x1p-125);
-template <> constexpr double fixedLimit<double> = 0x1p-1021;
+template <class T> constexpr T fixedLimit = static_cast<T>(sizeof(T) == 4 ? 0x1p-125 : 0x1p-1021);
 // All other sides: singular if the limit is greater than or equal to the magnitude.
-template <class T> constexpr T loopLimit = T(0x1p-23);
-template <> constexpr double loopLimit<double> = 0x1p-52;
+template <class T> constexpr T loopLimit = static_cast<T>(sizeof(T) == 4 ? 0x1p-23 : 0x1p-52);
 
 // ---------------------------------------------------------------------------------------------------------------------
 // General loop, one object, in dst
