@@ -207,9 +207,10 @@ template <class T> struct Buffer : Argument {
   constexpr Buffer(T* address, int32_t elements) : pointer(address), size(elements) {}
   constexpr operator T*() const { return pointer; }
   constexpr bool null() const { return pointer == nullptr; }
-  // Wraps like every size that the fronts compute.
+  // More than fits is the most that fits: no front can have two of those.
   constexpr int32_t scratch() const {
-    return static_cast<int32_t>(static_cast<uint32_t>(size) * static_cast<uint32_t>(sizeof(T)));
+    const int64_t bytes = int64_t{size} * static_cast<int64_t>(sizeof(T));
+    return bytes <= INT32_MAX ? static_cast<int32_t>(bytes) : INT32_MAX;
   }
   template <class> constexpr Buffer forKernel() const { return *this; }
   Buffer advanced(const Share& share) const {
