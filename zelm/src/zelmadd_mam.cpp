@@ -3,6 +3,7 @@
 #include "zelmframe.h"
 
 namespace zelm {
+namespace {
 
 // One array as source: width * height * (2 * count + 1).
 struct OneArray {
@@ -12,6 +13,7 @@ struct OneArray {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -3,6 +3,7 @@
 #include "zelmframe.h"
 
 namespace zelm {
+namespace {
 
 // Two arrays as sources: 3 * width * height * count.
 struct TwoArrays {
@@ -12,6 +13,7 @@ struct TwoArrays {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -2,6 +2,7 @@
 #include "zelmaffine.h"
 
 namespace zelm {
+namespace {
 
 // A point in and a point out, and the matrix: 6 * count + 16.
 struct PointsAndMatrix {
@@ -10,6 +11,7 @@ struct PointsAndMatrix {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -3,6 +3,7 @@
 #include "zelmframe.h"
 
 namespace zelm {
+namespace {
 
 // (widthHeight + 2) * widthHeight * count.
 struct FactorEach {
@@ -11,6 +12,7 @@ struct FactorEach {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

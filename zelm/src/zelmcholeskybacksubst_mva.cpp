@@ -3,6 +3,7 @@
 #include "zelmframe.h"
 
 namespace zelm {
+namespace {
 
 // (2 * count + widthHeight) * widthHeight.
 struct OneFactor {
@@ -11,6 +12,7 @@ struct OneFactor {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

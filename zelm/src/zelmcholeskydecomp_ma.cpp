@@ -3,6 +3,7 @@
 #include "zelmframe.h"
 
 namespace zelm {
+namespace {
 
 // widthHeight * widthHeight * count.
 struct Squares {
@@ -11,6 +12,7 @@ struct Squares {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -127,15 +127,15 @@ template <int Bytes> struct FixedStep {
 };
 
 // A W by W block of lanes, one vector a row.
-template <class T, int W> struct Block { Lanes<T, W> row[W]; };
+template <class T, int W> struct SquareBlock { Lanes<T, W> row[W]; };
 
-template <class T> ZELM_INLINE void transposeBlock(Block<T, 2>& b) {
+template <class T> ZELM_INLINE void transposeBlock(SquareBlock<T, 2>& b) {
   const auto r0 = b.row[0];
   const auto r1 = b.row[1];
   b.row[0] = __builtin_shufflevector(r0, r1, 0, 2);
   b.row[1] = __builtin_shufflevector(r0, r1, 1, 3);
 }
-template <class T> ZELM_INLINE void transposeBlock(Block<T, 4>& b) {
+template <class T> ZELM_INLINE void transposeBlock(SquareBlock<T, 4>& b) {
   const auto a0 = __builtin_shufflevector(b.row[0], b.row[1], 0, 4, 1, 5);
   const auto a1 = __builtin_shufflevector(b.row[0], b.row[1], 2, 6, 3, 7);
   const auto a2 = __builtin_shufflevector(b.row[2], b.row[3], 0, 4, 1, 5);
@@ -149,7 +149,7 @@ template <class T> ZELM_INLINE void transposeBlock(Block<T, 4>& b) {
 // The W by W block of a view at (i, j), one row of it a vector, and its transposition into that form.
 template <int W, class View> ZELM_INLINE auto loadBlock(const View& x, int64_t i, int64_t j) {
   using T = typename View::Element;
-  Block<T, W> block;
+  SquareBlock<T, W> block;
   ZELM_UNROLL
   for (int r = 0; r < W; ++r)
     block.row[r] = loadLanes<T, W>(View::unitRows ? x.address(i + r, j) : x.address(i, j + r));

@@ -2,6 +2,7 @@
 #include "zelmmulv.h"
 
 namespace zelm {
+namespace {
 
 // mva: (2 * src3Len + src2Len) * count. The matrix is not counted.
 struct TwoVectorArrays {
@@ -18,6 +19,7 @@ struct SingleAddend {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -50,7 +50,8 @@ template <class Body, class... A> ZELM_INLINE ZelStatus onCopies(const Body& bod
         SIG(NAME, T));                                                                                                 \
   }
 
-// A kernel of the list layout that calls the kernel of the single object for each object, up to the first failure.
+// A kernel of the standard or list layout that calls the kernel of the single object for each object, up to the first
+// failure.
 #define KERNEL_PER_OBJECT(KERNEL_NAME, SIG, V, T, SINGLE_SIG, SINGLE_KERNEL)                                           \
   ZELM_DECLARE(SINGLE_KERNEL, SINGLE_SIG, V, T);                                                                       \
   extern "C" ZelStatus KERNEL_NAME(SIG(V, T)) {                                                                        \

@@ -46,19 +46,19 @@ inline void substituteLoop(const A& src1, const int32_t* p, const B& src2, const
 // ---------------------------------------------------------------------------------------------------------------------
 // Sides 3 to 6: the factors with their rows in order, in lanes of any type
 
-template <class L, int N> struct Factors {
+template <class L, int N> struct LuFactors {
   Tile<L, N, N> a;
   L reciprocal[N];
 };
 
-template <class L, int N> ZELM_INLINE void takeReciprocals(Factors<L, N>& f) {
+template <class L, int N> ZELM_INLINE void takeReciprocals(LuFactors<L, N>& f) {
   ZELM_UNROLL
   for (int i = 0; i < N; ++i)
     f.reciprocal[i] = splat<L>(ElementOf<L>(1)) / f.a(i, i);
 }
 
 // x holds the right-hand side in the order of the rows, then the solution.
-template <class L, int N> ZELM_INLINE void substitute(const Factors<L, N>& f, Tile<L, 1, N>& x) {
+template <class L, int N> ZELM_INLINE void substitute(const LuFactors<L, N>& f, Tile<L, 1, N>& x) {
   ZELM_UNROLL
   for (int i = 1; i < N; ++i) {
     ZELM_UNROLL
@@ -76,8 +76,8 @@ template <class L, int N> ZELM_INLINE void substitute(const Factors<L, N>& f, Ti
   }
 }
 
-template <int N, class T, class A> ZELM_INLINE Factors<T, N> readFactors(const A& src1, const int32_t* p) {
-  Factors<T, N> f;
+template <int N, class T, class A> ZELM_INLINE LuFactors<T, N> readFactors(const A& src1, const int32_t* p) {
+  LuFactors<T, N> f;
   ZELM_UNROLL
   for (int i = 0; i < N; ++i)
     ZELM_UNROLL
@@ -89,7 +89,7 @@ template <int N, class T, class A> ZELM_INLINE Factors<T, N> readFactors(const A
 
 // One right-hand side; all of it is read before dst is written.
 template <int N, class T, class B, class D>
-ZELM_INLINE void substituteOne(const Factors<T, N>& f, const int32_t* p, const B& src2, const D& dst) {
+ZELM_INLINE void substituteOne(const LuFactors<T, N>& f, const int32_t* p, const B& src2, const D& dst) {
   Tile<T, 1, N> x;
   ZELM_UNROLL
   for (int i = 0; i < N; ++i)
@@ -104,7 +104,7 @@ ZELM_INLINE void substituteOne(const Factors<T, N>& f, const int32_t* p, const B
 // One matrix, a block of right-hand sides
 
 template <int N, class T>
-__attribute__((noinline)) void substituteBlock(const Factors<Lanes<T>, N>& f, const int32_t* p,
+__attribute__((noinline)) void substituteBlock(const LuFactors<Lanes<T>, N>& f, const int32_t* p,
                                                Tile<Lanes<T>, 1, N>& b) {
   Tile<Lanes<T>, 1, N> x;
   ZELM_UNROLL
@@ -114,7 +114,7 @@ __attribute__((noinline)) void substituteBlock(const Factors<Lanes<T>, N>& f, co
   b = x;
 }
 
-template <class T, int N> ZELM_INLINE void spread(const Factors<T, N>& f, Factors<Lanes<T>, N>& lanes) {
+template <class T, int N> ZELM_INLINE void spread(const LuFactors<T, N>& f, LuFactors<Lanes<T>, N>& lanes) {
   for (int e = 0; e < N * N; ++e)
     lanes.a.element[e] = splat<Lanes<T>>(f.a.element[e]);
   for (int i = 0; i < N; ++i)
@@ -122,7 +122,7 @@ template <class T, int N> ZELM_INLINE void spread(const Factors<T, N>& f, Factor
 }
 
 template <int N, class B, class D>
-inline void substituteVectors(const Factors<typename D::Element, N>& f, const int32_t* p, const B& src2, const D& dst,
+inline void substituteVectors(const LuFactors<typename D::Element, N>& f, const int32_t* p, const B& src2, const D& dst,
                               int32_t count) {
   using T = typename D::Element;
   using View = decltype(dst.object(0));
@@ -131,7 +131,7 @@ inline void substituteVectors(const Factors<typename D::Element, N>& f, const in
     substituteOne<N, T>(f, p, src2.object(0), dst.object(0));
     return;
   }
-  Factors<Lanes<T>, N> lanes;
+  LuFactors<Lanes<T>, N> lanes;
   spread(f, lanes);
   Tile<Lanes<T>, 1, N> b;
   if constexpr (View::unitRows) {
@@ -177,7 +177,7 @@ __attribute__((noinline)) void
 substituteRows(const ObjectAddresses<T, const char>& src1, int64_t step, const PlainAddresses<T, const int32_t>& index,
                const ObjectAddresses<T, const char>& src2, const ObjectAddresses<T, char>& dst) {
   constexpr auto E = static_cast<int64_t>(sizeof(T));
-  Factors<Lanes<T>, N> f;
+  LuFactors<Lanes<T>, N> f;
   Tile<Lanes<T>, 1, N> x;
   ZELM_UNROLL
   for (int i = 0; i < N; ++i) {
@@ -198,7 +198,7 @@ __attribute__((noinline)) void substituteElements(const Positions<N * N>& src1Po
                                                   const PlainAddresses<T, const int32_t>& index,
                                                   const Positions<N>& src2Positions, const ObjectOffsets<T>& src2,
                                                   const Positions<N>& dstPositions, const ObjectOffsets<T>& dst) {
-  Factors<Lanes<T>, N> f;
+  LuFactors<Lanes<T>, N> f;
   Tile<Lanes<T>, 1, N> x;
   if constexpr (laneCount<T> == 2) {
     // Fewer loads of single elements than choices among all rows.

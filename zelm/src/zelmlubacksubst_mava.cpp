@@ -3,6 +3,7 @@
 #include "zelmlubacksubst.h"
 
 namespace zelm {
+namespace {
 
 struct Systems {
   template <class A, class I, class B, class D>
@@ -11,6 +12,7 @@ struct Systems {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -3,6 +3,7 @@
 #include "zelmludecomp.h"
 
 namespace zelm {
+namespace {
 
 struct Squares {
   template <class S, class I, class D> static Wrapping of(const S&, const I&, const D&, Size widthHeight, Count count) {
@@ -10,6 +11,7 @@ struct Squares {
   }
 };
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -529,7 +529,7 @@ template <class Operand> ZELM_INLINE bool canPack(const Operand& x, int32_t n) {
     return false;
 }
 
-template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
+template <class Operand> ZELM_INLINE bool neighboursOrSingle(const Operand& x) {
   if constexpr (!Operand::isArray)
     return true;
   else if constexpr (isInterleaved<Operand>)
@@ -570,7 +570,7 @@ inline void multiplySide(const A& src1, const B& src2, const C& src3, const D& d
       k = multiplyPacked<Tree, N, transposed>(asPacked<N * N>(stored), asPacked<N>(src2), asPacked<N>(src3),
                                               asPacked<N>(dst), count);
   } else if constexpr (isInterleaved<D>) {
-    if (areNeighbours(src1) && areNeighbours(src2) && areNeighbours(src3) && areNeighbours(dst))
+    if (neighboursOrSingle(src1) && neighboursOrSingle(src2) && neighboursOrSingle(src3) && neighboursOrSingle(dst))
       k = multiplyStraight<Tree, Lanes<T>, Lie::Neighbours, N, transposed>(stored, src2, src3, dst, 0, count);
   }
   multiplyStraight<Tree, T, Lie::Elements, N, transposed>(stored, src2, src3, dst, k, count);
@@ -606,7 +606,7 @@ template <class L, class A, class X> ZELM_INLINE L sumRows(const A& a, const X& 
         sum = sum + column[q] * splat<L>(x.load(k + q));
     }
     for (; k < terms; ++k) {
-      L column;
+      L column{};
       ZELM_UNROLL
       for (int w = 0; w < W; ++w)
         column[w] = loadElement<T>(rows.of[w] + k * static_cast<int64_t>(sizeof(T)));

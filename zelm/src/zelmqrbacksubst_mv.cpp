@@ -3,6 +3,7 @@
 #include "zelmqr.h"
 
 namespace zelm {
+namespace {
 
 // At least as many rows as columns.
 struct NotWider {
@@ -15,6 +16,7 @@ struct NotWider {
 using N_Z_S_Shape = N_Z_S_M<NotWider>;
 using N_Z_H_Shape = N_Z_H_M<NotWider>;
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

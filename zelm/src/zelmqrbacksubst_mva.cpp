@@ -3,6 +3,7 @@
 #include "zelmqr.h"
 
 namespace zelm {
+namespace {
 
 // At least as many rows as columns.
 struct NotWider {
@@ -23,6 +24,7 @@ struct OneMatrix {
 using N_C_Z_S_Shape = N_C_Z_S_M<NotWider>;
 using N_C_Z_S_H_Shape = N_C_Z_S_H_M<NotWider>;
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

@@ -3,6 +3,7 @@
 #include "zelmqr.h"
 
 namespace zelm {
+namespace {
 
 // At least as many rows as columns.
 struct NotWider {
@@ -22,6 +23,7 @@ struct Twice {
 using N_C_Z_S_Shape = N_C_Z_S_M<NotWider>;
 using N_C_Z_S_H_Shape = N_C_Z_S_H_M<NotWider>;
 
+} // namespace
 } // namespace zelm
 
 // clang-format off

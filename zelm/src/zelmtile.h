@@ -162,13 +162,13 @@ ZELM_INLINE void storeChunk(const ObjectAddresses<T, char>& x, int64_t offset, L
 
 // Three elements of one object.
 ZELM_INLINE Lanes<float, 4> loadTriple(const char* address) {
-  const auto two = _mm_load_sd(reinterpret_cast<const double*>(address));
-  const auto third = _mm_load_ss(reinterpret_cast<const float*>(address) + 2);
+  const auto two = _mm_set_sd(loadElement<double>(address));
+  const auto third = _mm_set_ss(loadElement<float>(address + 8));
   return _mm_movelh_ps(_mm_castpd_ps(two), third);
 }
 ZELM_INLINE void storeTriple(char* address, Lanes<float, 4> v) {
-  _mm_storel_pd(reinterpret_cast<double*>(address), _mm_castps_pd(v));
-  _mm_store_ss(reinterpret_cast<float*>(address) + 2, _mm_movehl_ps(v, v));
+  storeElement(address, _mm_cvtsd_f64(_mm_castps_pd(v)));
+  storeElement(address + 8, _mm_cvtss_f32(_mm_movehl_ps(v, v)));
 }
 
 // N neighbouring elements of each object at `offset` bytes, into lanes[0 .. N-1]. The last chunk of a run of at least
