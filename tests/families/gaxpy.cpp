@@ -48,6 +48,7 @@ Family family() {
     return operand == "dst" ? Shape{1, s.get("src1Height")} : Shape{0, 0};
   };
   f.shapes = shapes;
+  f.dataKinds.push_back(negativeZeros);
   f.fill = bothFill([](auto& job, Rng& rng, int kind) {
     fillSums(job, rng, kind);
     auto src3 = job["src3"];
@@ -73,5 +74,14 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, ProductsOfNegativeZeros) {
+  checkNegativeZeros();
+}
+
+TEST(Results, DataTellsSumsApart) {
+  checkDataTellsApart<float>(member("zelmGaxpy_mva_32f"));
+  checkDataTellsApart<double>(member("zelmGaxpy_mva_64f"));
+}
 
 } // namespace

@@ -1,8 +1,7 @@
 // Products of matrices.
-#include "../harness/paths.h"
-#include "../harness/run.h"
+#include "sums.h"
 
-#include <gtest/gtest.h>
+#include "../harness/paths.h"
 
 namespace {
 
@@ -181,23 +180,6 @@ template <class Job> void reference(Job& job) {
       }
 }
 
-// Data whose terms are all -0.0.
-constexpr int negativeZeros = 9;
-
-template <class Job> void fill(Job& job, Rng& rng, int kind) {
-  if (kind != negativeZeros)
-    return;
-  auto src1 = job["src1"], src2 = job["src2"];
-  for (int k = 0; k < job.count(); ++k) {
-    for (int i = 0; i < src1.rows(); ++i)
-      for (int j = 0; j < src1.cols(); ++j)
-        src1.set(k, i, j, static_cast<float>(rng.within(1, 9)));
-    for (int i = 0; i < src2.rows(); ++i)
-      for (int j = 0; j < src2.cols(); ++j)
-        src2.set(k, i, j, -0.0f);
-  }
-}
-
 // ---- The table
 
 constexpr Orders single = {"NZMS", nullptr, "NZMH"}, array = {"NCZMS", "NCZMSH", "NCZMSH"};
@@ -234,7 +216,10 @@ Family family() {
   f.shape = shape;
   f.shapes = shapes;
   f.dataKinds = {0, 0, 1, 2, 3, 4, negativeZeros};
-  f.fill = bothFill([](auto& job, Rng& rng, int kind) { fill(job, rng, kind); });
+  f.fill = bothFill([](auto& job, Rng& rng, int kind) {
+    if (kind == negativeZeros)
+      fillNegativeZeros(job, rng);
+  });
   f.reference = both([](auto& job) { reference(job); });
   return f;
 }
@@ -243,24 +228,8 @@ const Registration registration{family()};
 
 // ---- What the suites may miss
 
-// The start of the sum in every kernel at every size.
 TEST(Results, ProductsOfNegativeZeros) {
-  for (const Member& m : members())
-    for (const Sizes& s : shapes(m))
-      for (Spread spread : {Spread::Packed, Spread::PaddedRows, Spread::Double})
-        for (int32_t count : {1, 19}) {
-          CaseSpec spec;
-          spec.id = "Z";
-          spec.sizes = s;
-          if (m.hasCount)
-            spec.sizes.set("count", count);
-          Plan plan;
-          plan.spread = spread;
-          spec.plans.assign(m.operands.size(), plan);
-          spec.dataKind = negativeZeros;
-          const std::string fault = runCase(m, spec);
-          ASSERT_EQ("", fault) << m.name << s.text();
-        }
+  checkNegativeZeros();
 }
 
 // Data of the kinds in use tells the sum from other sums of the same terms.

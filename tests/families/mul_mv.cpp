@@ -109,6 +109,7 @@ Family family() {
     return operand == "dst" ? Shape{1, s.get(transposed(m) ? "src1Width" : "src1Height")} : Shape{0, 0};
   };
   f.shapes = shapes;
+  f.dataKinds.push_back(negativeZeros);
   f.fill = bothFill([](auto& job, Rng& rng, int kind) { fillSums(job, rng, kind); });
   f.reference = both([](auto& job) {
     auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
@@ -125,6 +126,10 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, ProductsOfNegativeZeros) {
+  checkNegativeZeros();
+}
 
 TEST(Results, DataTellsSumsApart) {
   checkDataTellsApart<float>(member("zelmMul_mva_32f"));

@@ -1,4 +1,5 @@
-// The sums of matrix by vector as they are documented: text with the brackets as evaluated, digits are terms.
+// Sums of products as they are documented: text with the brackets as evaluated, digits are terms. Data that tell them
+// apart.
 #ifndef ZELMTEST_SUMS_H
 #define ZELMTEST_SUMS_H
 
@@ -8,6 +9,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <stdexcept>
 
 namespace zelmtest {
 
@@ -47,25 +50,63 @@ template <class T> T readSum(const char*& text, const std::vector<T>& terms) {
   return sum;
 }
 
-// The sum with this name of result element i of square matrices of side 3 to 6, and the sum of all other sizes.
+// The sum with this name of result element i of square matrices of side 3 to 6. All other sizes, and "zero chain" at
+// any size, start from +0.0.
 template <class T> T sumOf(std::string_view name, int width, int height, int i, const std::vector<T>& terms) {
-  if (width == height && width >= 3 && width <= 6)
-    for (const SumRow& row : sumRows)
-      if (name == row.name) {
-        const char* text = row.of[width];
-        if (i == width - 1 && row.last[width] != nullptr && *row.last[width] != '\0')
-          text = row.last[width];
-        return readSum(text, terms);
-      }
+  const SumRow* const row =
+      std::find_if(std::begin(sumRows), std::end(sumRows), [&](const SumRow& r) { return name == r.name; });
+  const bool named = row != std::end(sumRows);
+  if (!named && name != "zero chain")
+    throw std::logic_error("no sum is called " + std::string(name));
+  if (named && width == height && width >= 3 && width <= 6) {
+    const char* text = row->of[width];
+    if (i == width - 1 && row->last[width] != nullptr && *row->last[width] != '\0')
+      text = row->last[width];
+    return readSum(text, terms);
+  }
   T sum = 0;
   for (T term : terms)
     sum = sum + term;
   return sum;
 }
 
+// Data whose products are all -0.0, and what is added to their sum too.
+constexpr int negativeZeros = 9;
+
+template <class Job> void fillNegativeZeros(Job& job, Rng& rng) {
+  for (const OperandInfo& op : job.member().operands) {
+    auto view = job[op.name];
+    for (int k = 0; !op.output && k < job.count(); ++k)
+      for (int i = 0; i < view.rows(); ++i)
+        for (int j = 0; j < view.cols(); ++j)
+          view.set(k, i, j, op.name == "src1" ? static_cast<float>(rng.within(1, 9)) : -0.0f);
+  }
+}
+
+// The start of the sum in every kernel at every size.
+inline void checkNegativeZeros() {
+  for (const Member& m : members())
+    for (const Sizes& s : m.shapes())
+      for (Spread spread : {Spread::Packed, Spread::PaddedRows, Spread::Double})
+        for (int32_t count : {1, 19}) {
+          CaseSpec spec;
+          spec.id = "Z";
+          spec.sizes = s;
+          if (m.hasCount)
+            spec.sizes.set("count", count);
+          Plan plan;
+          plan.spread = spread;
+          spec.plans.assign(m.operands.size(), plan);
+          spec.dataKind = negativeZeros;
+          ASSERT_EQ("", runCase(m, spec)) << m.name << s.text();
+        }
+}
+
 // Data for families of sums: in some of it all terms of some elements are -0.0, which tells a sum that starts from +0.0
 // from one that starts with a term.
 template <class Job> void fillSums(Job& job, Rng& rng, int kind) {
+  if (kind == negativeZeros)
+    fillNegativeZeros(job, rng);
   if (kind != 3)
     return;
   auto matrix = job["src1"];
@@ -82,11 +123,12 @@ template <class Job> void fillSums(Job& job, Rng& rng, int kind) {
   }
 }
 
-// Whether data of the kinds that a family runs with tells two sums of n terms apart.
+// Whether data of the kinds that a family runs with tells two sums of n terms apart, src3 added if there is one.
 template <class T>
 bool toldApart(const Member& m, int n, const std::function<T(const std::vector<T>&)>& one,
                const std::function<T(const std::vector<T>&)>& other) {
   Rng rng(5);
+  const bool adds = m.operands[2].name == "src3";
   for (int trial = 0; trial < 40; ++trial)
     for (int kind : m.family->dataKinds) {
       Job job(m, m.square(n, 3));
@@ -94,13 +136,20 @@ bool toldApart(const Member& m, int n, const std::function<T(const std::vector<T
         if (!m.operands[o].output)
           fillDense(job.operands[o], rng, kind);
       Typed<T> typed(job);
-      fillSums(typed, rng, kind);
+      if constexpr (sizeof(T) == 4)
+        m.family->fill.single(typed, rng, kind);
+      else
+        m.family->fill.twofold(typed, rng, kind);
       auto matrix = typed["src1"], vector = typed["src2"];
       for (int i = 0; i < n; ++i) {
         std::vector<T> terms;
         for (int k = 0; k < n; ++k)
           terms.push_back(matrix(0, i, k) * vector(0, k));
-        const T a = one(terms), b = other(terms);
+        T a = one(terms), b = other(terms);
+        if (adds) {
+          a = a + typed["src3"](0, i);
+          b = b + typed["src3"](0, i);
+        }
         if (!sameElement(reinterpret_cast<const unsigned char*>(&a), reinterpret_cast<const unsigned char*>(&b),
                          sizeof(T), false, false))
           return true;
