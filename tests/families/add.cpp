@@ -41,6 +41,14 @@ Family family() {
       {ZELMTEST_ARRAY(zelmAdd_tata), "src1:ta src2:ta dst:ma width height count",  array, "",          allArrays, limits32, limits64},
   };
   // clang-format on
+  // Add has no mt that mat could call.
+  f.delegate = [](const Member& m, const Sizes&, bool unit) -> std::string {
+    if (m.layout != 'L' || m.formName == "mat")
+      return "";
+    if (unit)
+      return m.elem == 8 && (m.formName == "mam" || m.formName == "mama") ? m.kernelOfOne("") : "";
+    return m.kernelOfOne("_S2");
+  };
   f.reference = both([](auto& job) {
     auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
     for (int k = 0; k < job.count(); ++k)

@@ -83,6 +83,10 @@ Family family() {
   // clang-format on
   f.dataKinds = {0, 10, 10, 10, 1, 3};
   f.fill = bothFill([](auto& job, Rng& rng, int kind) { fill(job, rng, kind); });
+  f.delegate = [](const Member& m, const Sizes& s, bool) {
+    const int n = s.get("widthHeight");
+    return m.formName == "ma" && m.layout == 'P' && (n < 3 || n > 6) ? m.kernelOfOne("_P") : "";
+  };
   f.reference = both([](auto& job) {
     auto src = job["src"], dst = job["dst"];
     using T = decltype(src(0, 0, 0));

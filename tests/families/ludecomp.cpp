@@ -167,6 +167,9 @@ Family family() {
       {ZELMTEST_ARRAY(zelmLUDecomp_ma), "src:ma index:I dst:ma widthHeight count", {"NCZS", "NCZSH", "NCZSH"}, "src", estimate, limits, limits},
   };
   // clang-format on
+  f.delegate = [](const Member& m, const Sizes& s, bool unit) {
+    return isFixed(s.get("widthHeight")) ? "" : m.kernelOfOne(m.layout == 'P' ? "_P_com" : unit ? "_S_com" : "_S2_com");
+  };
   f.reference = both([](auto& job) { reference(job); });
   f.fill = bothFill([](auto& job, Rng& rng, int kind) { fill(job, rng, kind); });
   f.dataKinds = {0, 0, 1, 2, 3, 4, 10, 11, 12, 13, 14, 15, 16, 17, 18};

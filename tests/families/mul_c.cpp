@@ -39,6 +39,10 @@ Family family() {
   };
   // clang-format on
   f.fork = Fork::Above;
+  f.delegate = [](const Member& m, const Sizes&, bool unit) {
+    const bool matrices = m.formName == "mac" || m.formName == "tac";
+    return matrices && m.layout != 'P' && !unit ? m.kernelOfOne("_S2") : "";
+  };
   f.reference = both([](auto& job) {
     auto src = job["src"], val = job["val"], dst = job["dst"];
     const bool vector = job.member().formName[0] == 'v';

@@ -220,6 +220,10 @@ Family family() {
     if (kind == negativeZeros)
       fillNegativeZeros(job, rng);
   });
+  f.delegate = [](const Member& m, const Sizes&, bool unit) {
+    const bool compact = m.elem == 4 && m.formName[1] == 'a' && m.formName.size() == 3; // mam mat tam tat
+    return m.layout == 'L' && !unit && !compact ? m.kernelOfOne("_S2") : "";
+  };
   f.reference = both([](auto& job) { reference(job); });
   return f;
 }

@@ -111,6 +111,9 @@ Family family() {
   f.shapes = shapes;
   f.dataKinds.push_back(negativeZeros);
   f.fill = bothFill([](auto& job, Rng& rng, int kind) { fillSums(job, rng, kind); });
+  f.delegate = [](const Member& m, const Sizes&, bool unit) {
+    return m.layout == 'L' && !unit ? m.kernelOfOne("_S2") : "";
+  };
   f.reference = both([](auto& job) {
     auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
     const std::string name = sumName(job.member(), job.unit());

@@ -208,6 +208,14 @@ bool Member::goesToFront(bool unit, const Sizes& sizes) const {
   return family->fork == Fork::AtLeast ? estimate >= limit : estimate > limit;
 }
 
+std::string Member::kernelOfOne(const char* suffix) const {
+  std::string single = "own" + name.substr(0, name.find('_') + 1);
+  for (char letter : formName)
+    if (letter != 'a')
+      single += letter;
+  return single + (elem == 4 ? "_32f" : "_64f") + suffix;
+}
+
 Shape Member::storedShape(const OperandInfo& op, const Sizes& sizes) const {
   if (family->shape) {
     Shape shape = family->shape(*this, op.name, sizes);

@@ -144,7 +144,8 @@ struct Form {
   std::vector<Function> functions;
   // "src1:ma src2:m dst:ma width height count". Kinds behind the colon: m t v c, ma ta va ca; r one plain element per
   // object, e widthHeight plain elements per object, x plain packed objects of the family's shape, i and I widthHeight
-  // plain integers per object that are read or written, b the buffer (free after the call).
+  // plain integers per object that are read or written, b the buffer (free after a call without threads, else
+  // untouched).
   const char* tokens;
   Orders orders;
   const char* inPlace = ""; // sources that dst may be the same memory as, with equal strides
@@ -163,11 +164,13 @@ struct Family {
   // The stored shape of an operand where the default rule of storedShape does not give it; {0, 0} leaves it the
   // default.
   std::function<Shape(const Member&, const std::string& operand, const Sizes&)> shape = nullptr;
-  std::function<std::vector<Sizes>(const Member&)> shapes = nullptr;   // sizes to run, instead of the default list
-  Fills fill = {};                                                     // changes the inputs that the default filled
-  std::vector<int> dataKinds = {0, 0, 1, 2, 3, 4};                     // see fillDense
-  bool movesBits = false;                                              // NaN payloads are results
-  bool stopsAtFailure = true;                                          // a failing object ends its share
+  std::function<std::vector<Sizes>(const Member&)> shapes = nullptr; // sizes to run, instead of the default list
+  Fills fill = {};                                                   // changes the inputs that the default filled
+  std::vector<int> dataKinds = {0, 0, 1, 2, 3, 4};                   // see fillDense
+  bool movesBits = false;                                            // NaN payloads are results
+  bool stopsAtFailure = true;                                        // a failing object ends its share
+  // The kernel that a member's own one calls for each object; none if empty. Member::kernelOfOne spells it.
+  std::function<std::string(const Member&, const Sizes&, bool unit)> delegate = nullptr;
   std::map<std::string, std::function<void(Member&)>> exceptions = {}; // members that deviate from their form's row
 };
 
@@ -211,6 +214,7 @@ struct Member {
   int operandIndex(std::string_view operand) const;
   bool agrees(const Sizes& sizes) const { return !family->agrees || family->agrees(*this, sizes); }
   bool goesToFront(bool unit, const Sizes& sizes) const;
+  std::string kernelOfOne(const char* suffix) const; // "ownzelmAdd_mm_32f_S2" of zelmAdd_mama_32f_L and "_S2"
   Shape storedShape(const OperandInfo& operand, const Sizes& sizes) const;
   Sizes square(int n, int32_t count) const; // all sizes n
   std::vector<Sizes> shapes() const;        // without count; all agree
