@@ -300,8 +300,8 @@ GROUPS["MulMatrices"] = {
     ],
     "notes": [
         "Each element of the result is one sum of rounded products in ascending order of the inner index, in the element\n"
-        "type, not fused. Kernels for sizes 3 to 6 start from the first product and all others from +0.0, which shows only\n"
-        "where every product is -0.0.",
+        "type, not fused. Where a function has code of its own for a size (3 to 6, but not all of them in every function and\n"
+        "layout), sums start from the first product, otherwise from +0.0, which shows only where every product is -0.0.",
         "Two combinations read and write beyond the sizes that they were given. zelmMul_mm_32f_P and zelmMul_tt_64f_P, when\n"
         "all four sizes are at most 3 and either one of them is 3 or both 1 and 2 are among them, work as if all were 3: the\n"
         "lists need nine entries each. zelmMul_mat_32f with every Stride2 equal to 4, src1 4 by 4 and src2Height 3 reads a\n"
@@ -349,7 +349,8 @@ GROUPS["MulVectors"] = {
     "notes": [
         "Sums are in the element type, of rounded products, not fused. For square matrices of sides 4 to 6 the order of\n"
         "the additions differs between forms, types and layouts, and between calls with and without unit strides; results\n"
-        "may then differ in the last bits.",
+        "may then differ in the last bits. Other sizes, and some functions of the list layout at all sizes, start from +0.0,\n"
+        "which shows only where every product is -0.0.",
     ],
     "example": [
         "  Zel32f matrix[4][4] = {{1, 0, 0, 2}, {0, 1, 0, 3}, {0, 0, 1, 4}, {0, 0, 0, 1}}, points[100][4] = {{1, 2, 3, 1}};",
@@ -442,7 +443,8 @@ SQUARE_TESTS = (
 )
 STOPS = (
     "On one thread an array call stops at the first object that fails: objects before it are complete, objects behind\n"
-    "it are neither read nor written. On several threads a failure stops only the share of the thread that met it."
+    "it are not written; some may have been read. On several threads a failure stops only the share of the thread that\n"
+    "met it."
 )
 SOLVE_FORMS = {
     "mv": "solves A * dst = src2",

@@ -598,8 +598,9 @@ ZelStatus zelmMul_vaca_64f_P(const Zel64f* const* src, int32_t srcShift, int32_t
  * 1440; where every Stride2 is the element size, above 3600, or 2500 in the standard layout of 32f.
  *
  * Notes. Each element of the result is one sum of rounded products in ascending order of the inner index, in the
- * element type, not fused. Kernels for sizes 3 to 6 start from the first product and all others from +0.0, which shows
- * only where every product is -0.0.
+ * element type, not fused. Where a function has code of its own for a size (3 to 6, but not all of them in every
+ * function and layout), sums start from the first product, otherwise from +0.0, which shows only where every product is
+ * -0.0.
  *
  * Two combinations read and write beyond the sizes that they were given. zelmMul_mm_32f_P and zelmMul_tt_64f_P, when
  * all four sizes are at most 3 and either one of them is 3 or both 1 and 2 are among them, work as if all were 3: the
@@ -1052,7 +1053,8 @@ ZelStatus zelmMul_tata_64f_P(const Zel64f* const* src1, int32_t src1Shift, int32
  *
  * Notes. Sums are in the element type, of rounded products, not fused. For square matrices of sides 4 to 6 the order of
  * the additions differs between forms, types and layouts, and between calls with and without unit strides; results may
- * then differ in the last bits.
+ * then differ in the last bits. Other sizes, and some functions of the list layout at all sizes, start from +0.0, which
+ * shows only where every product is -0.0.
  *
  * Example:
  *
@@ -1426,7 +1428,8 @@ ZelStatus zelmAffineTransform3DH_mva_32f(const Zel32f* src1, int32_t src1Stride1
  * Scale matrices of such sides if their elements are small. A NaN pivot is not a failure.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are neither read nor written. On several threads a failure stops only the share of the thread that met it.
+ * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
+ * it.
  *
  * What the failing object leaves: for sides 3 to 6 in the standard and list layouts the rows of dst of finished steps
  * are final and the others as they were; in the pointer layout dst is untouched; for other sides dst holds the partly
@@ -1627,7 +1630,8 @@ ZelStatus zelmLUBackSubst_mava_64f_P(const Zel64f* const* src1, int32_t src1Shif
  * not a failure.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are neither read nor written. On several threads a failure stops only the share of the thread that met it.
+ * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
+ * it.
  *
  * The failing object's dst is partly written, up to the failing row.
  *
@@ -1834,7 +1838,8 @@ ZelStatus zelmCholeskyBackSubst_mava_64f_P(const Zel64f* const* src1, int32_t sr
  * zero at the end of R.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are neither read nor written. On several threads a failure stops only the share of the thread that met it.
+ * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
+ * it.
  *
  * The failing object's dst holds the finished columns and the partly reduced rest.
  *
