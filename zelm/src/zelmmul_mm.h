@@ -447,9 +447,9 @@ template <int N, class A, class B, class D> ZELM_NOINLINE void multiplyElements(
 // Straight-line sizes, pointer layout with stride0 of one element: objects side by side as they lie
 
 // The addresses of an operand's elements as the product sees them.
-template <class C, int N> struct Positions {
+template <class C, int N> struct ElementAddresses {
   C* at[N * N];
-  template <class View> ZELM_INLINE explicit Positions(const View& x) {
+  template <class View> ZELM_INLINE explicit ElementAddresses(const View& x) {
     for (int i = 0; i < N; ++i)
       for (int j = 0; j < N; ++j)
         at[i * N + j] = x.address(i, j);
@@ -470,9 +470,9 @@ ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, co
                                       const PointerMatrixView<T>& dst, int64_t count) {
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   constexpr int64_t W = laneCount<T>;
-  const Positions<const char, N> first(src1);
-  const Positions<const char, N> second(src2);
-  const Positions<char, N> result(dst);
+  const ElementAddresses<const char, N> first(src1);
+  const ElementAddresses<const char, N> second(src2);
+  const ElementAddresses<char, N> result(dst);
   for (int64_t k = 0; k < count; k += W) {
     const int64_t offset = (k + W <= count ? k : count - W) * E;
     Tile<Lanes<T>, N, N> b;
@@ -617,6 +617,66 @@ ZELM_NOINLINE void multiplyGeneral(const A& a, const B& b, const D& d, int64_t r
   multiplyWide<vectors ? laneCount<typename D::Element> : 1>(a, b, d, rows, columns, n);
 }
 
+// Pointer layout with stride0 of one element: R rows of the result from row i on, V columns from column j on, of the
+// objects at `offset`.
+template <int R, int V, class Single, class T>
+ZELM_INLINE void multiplyNeighbourElements(const PointerMatrixView<const T>& a, const PointerMatrixView<const T>& b,
+                                           const PointerMatrixView<T>& d, int64_t i, int64_t j, int64_t n,
+                                           int64_t offset) {
+  Lanes<T> sum[R * V] = {};
+  for (int64_t k = 0; k < n; ++k) {
+    Lanes<T> second[V];
+    ZELM_UNROLL
+    for (int v = 0; v < V; ++v)
+      second[v] = loadNeighbours<T, Single::src2>(b.address(k, j + v), offset);
+    ZELM_UNROLL
+    for (int r = 0; r < R; ++r) {
+      const Lanes<T> first = loadNeighbours<T, Single::src1>(a.address(i + r, k), offset);
+      ZELM_UNROLL
+      for (int v = 0; v < V; ++v)
+        sum[r * V + v] = sum[r * V + v] + first * second[v];
+    }
+  }
+  ZELM_UNROLL
+  for (int r = 0; r < R; ++r)
+    ZELM_UNROLL
+  for (int v = 0; v < V; ++v)
+    storeLanes(d.address(i + r, j + v) + offset, sum[r * V + v]);
+}
+
+// R rows of the result from row i on.
+template <int R, class Single, class T>
+ZELM_INLINE void multiplyNeighbourRows(const PointerMatrixView<const T>& a, const PointerMatrixView<const T>& b,
+                                       const PointerMatrixView<T>& d, int64_t i, int64_t columns, int64_t n,
+                                       int64_t offset) {
+  int64_t j = 0;
+  for (; j + 4 <= columns; j += 4)
+    multiplyNeighbourElements<R, 4, Single>(a, b, d, i, j, n, offset);
+  if (j + 2 <= columns) {
+    multiplyNeighbourElements<R, 2, Single>(a, b, d, i, j, n, offset);
+    j += 2;
+  }
+  if (j < columns)
+    multiplyNeighbourElements<R, 1, Single>(a, b, d, i, j, n, offset);
+}
+
+// At least as many objects as a vector has lanes; the last vector is moved back to end with the batch.
+template <class Single, class T>
+ZELM_NOINLINE void multiplyNeighboursGeneral(const PointerMatrixView<const T>& a, const PointerMatrixView<const T>& b,
+                                             const PointerMatrixView<T>& d, int64_t rows, int64_t columns, int64_t n,
+                                             int64_t count) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  constexpr int64_t W = laneCount<T>;
+  for (int64_t k = 0; k < count; k += W) {
+    const int64_t offset = (k + W <= count ? k : count - W) * E;
+    int64_t i = 0;
+    for (; i + 2 <= rows; i += 2)
+      multiplyNeighbourRows<2, Single>(a, b, d, i, columns, n, offset);
+    if (i < rows)
+      multiplyNeighbourRows<1, Single>(a, b, d, i, columns, n, offset);
+  }
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Kernels
 
@@ -628,20 +688,39 @@ template <class T> ZELM_INLINE auto anySteps(const PointerMatrixView<T>& x) {
   return x;
 }
 
+template <class> constexpr bool isNeighbour = false;
+template <class T> constexpr bool isNeighbour<PointerMatrixView<T>> = true;
+
+// Do the objects of a batch lie side by side at every position, enough of them to fill a vector? A single source does
+// for any object.
+template <class A, class B, class D>
+ZELM_INLINE bool liesSideBySide(const A& src1, const B& src2, const D& dst, int32_t count) {
+  using T = typename D::Element;
+  const auto neighbours = [](const auto& x) { return !x.isArray || x.objectStride() == int64_t{sizeof(T)}; };
+  return count >= laneCount<T> && neighbours(src1) && neighbours(src2) && neighbours(dst);
+}
+
+template <class A, class B, class D> using SingleSources = Which<D::isArray && !A::isArray, D::isArray && !B::isArray>;
+
 template <class A, class B, class D>
 ZELM_INLINE ZelStatus multiplyAny(const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
                                   int32_t src2Width, int32_t src2Height, const D& dst, int32_t count) {
+  using View = decltype(dst.object(0, 0));
   const int32_t rows = rowsOf<A>(src1Width, src1Height);
   const int32_t columns = columnsOf<B>(src2Width, src2Height);
   const int32_t n = columnsOf<A>(src1Width, src1Height);
+  if constexpr (D::isArray && isNeighbour<View>) {
+    if (liesSideBySide(src1, src2, dst, count)) {
+      multiplyNeighboursGeneral<SingleSources<A, B, D>>(src1.object(0, src1Width), src2.object(0, src2Width),
+                                                        dst.object(0, columns), rows, columns, n, count);
+      return zelStatusOk;
+    }
+  }
   for (int32_t k = 0; k < count; ++k)
     multiplyGeneral(anySteps(src1.object(k, src1Width)), src2.object(k, src2Width), dst.object(k, columns), rows,
                     columns, n);
   return zelStatusOk;
 }
-
-template <class> constexpr bool isNeighbour = false;
-template <class T> constexpr bool isNeighbour<PointerMatrixView<T>> = true;
 
 template <class X> ZELM_INLINE const auto& storedOf(const X& x) {
   if constexpr (isTransposed<X>)
@@ -655,15 +734,13 @@ template <int N, class A, class B, class D>
 ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, int32_t count) {
   using T = typename D::Element;
   using View = decltype(dst.object(0, N));
-  using Single = Which<D::isArray && !A::isArray, D::isArray && !B::isArray>;
+  using Single = SingleSources<A, B, D>;
   if constexpr (View::unitRows) {
     multiplyUnit<T, N, Which<isTransposed<A>, isTransposed<B>>, Single>(
         objectsOf(storedOf(src1)), objectsOf(storedOf(src2)), objectsOf(dst), count);
   } else {
     if constexpr (D::isArray && isNeighbour<View>) {
-      constexpr auto E = static_cast<int64_t>(sizeof(T));
-      const auto neighbours = [](const auto& x) { return !x.isArray || x.objectStride() == E; };
-      if (count >= laneCount<T> && neighbours(src1) && neighbours(src2) && neighbours(dst)) {
+      if (liesSideBySide(src1, src2, dst, count)) {
         multiplyNeighbours<T, N, Single>(src1.object(0, N), src2.object(0, N), dst.object(0, N), count);
         return zelStatusOk;
       }
