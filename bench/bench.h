@@ -87,8 +87,9 @@ std::vector<Contender> library(const std::array<const char*, sizeof...(Functions
                                const char* who = "lib", Role role = Role::library, int group = 0) {
   std::vector<Contender> pair;
   for (const Build build : {Build::base, Build::wide}) {
-    const char* const* symbol = symbols.data();
-    const std::tuple<Functions...> functions{reinterpret_cast<Functions>(libraryAddress(build, *symbol++))...};
+    const auto functions = std::apply(
+        [build](auto... symbol) { return std::tuple(reinterpret_cast<Functions>(libraryAddress(build, symbol))...); },
+        symbols);
     pair.push_back({who, build, role,
                     [functions, call](const Block& block, long repetitions) {
                       for (; repetitions > 0; --repetitions)
