@@ -1,12 +1,9 @@
 // Sums of matrices.
+#include "huge.h"
+
 #include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
-
-#include <gtest/gtest.h>
-
-#include <numeric>
-#include <omp.h>
 
 namespace {
 
@@ -61,53 +58,28 @@ Family family() {
 
 const Registration registration{family()};
 
-// Single calls and what they enter first, as plain numbers.
-TEST(Entries, Add) {
+TEST(Thresholds, Numbers) {
   if (!countedBuild)
     GTEST_SKIP();
-  struct {
-    const char* member;
-    int32_t width, height, count, src1Stride2;
-    const char* entered;
-  } const calls[] = {
-      {"zelmAdd_mam_32f", 3, 3, 111, 4, "ownzelmAdd_mam_32f"},
-      {"zelmAdd_mam_32f", 3, 3, 111, 8, "ownOMP_zelmAdd_mam_32f"},
-      {"zelmAdd_mam_64f", 3, 3, 111, 8, "ownOMP_zelmAdd_mam_64f"},
-      {"zelmAdd_mam_64f", 3, 3, 110, 16, "ownzelmAdd_mam_64f_S2"},
-      {"zelmAdd_mama_32f_L", 4, 4, 41, 4, "ownzelmAdd_mama_32f_L"},
-      {"zelmAdd_mama_32f_L", 4, 4, 42, 4, "ownOMP_zelmAdd_mama_32f_L"},
-      {"zelmAdd_mama_32f_L", 4, 4, 41, 12, "ownzelmAdd_mama_32f_LS2"},
-      {"zelmAdd_mama_32f_P", 1000, 1000, 1000, 0, "ownzelmAdd_mama_32f_P"},     // 3e9 is negative
-      {"zelmAdd_mama_32f_P", 1000, 1000, 1500, 0, "ownOMP_zelmAdd_mama_32f_P"}, // 4.5e9 is positive again
-  };
-  for (const auto& call : calls) {
-    const Member& m = member(call.member);
-    Sizes sizes = m.square(call.width, call.count);
-    sizes.set("height", call.height);
-    std::vector<Slot> slots = wildSlots(m, sizes);
-    for (size_t i = 0; i < slots.size(); ++i)
-      if (m.arguments[i].name == "src1Stride2")
-        slots[i].integer = call.src1Stride2;
-    EXPECT_EQ(call.entered, probe(m, slots)) << call.member << sizes.text();
-  }
+  EXPECT_EQ("ownzelmAdd_mam_32f", entered("zelmAdd_mam_32f", 3, 111));
+  EXPECT_EQ("ownOMP_zelmAdd_mam_32f", entered("zelmAdd_mam_32f", 3, 111, "src1Stride2", 8));
+  EXPECT_EQ("ownOMP_zelmAdd_mam_64f", entered("zelmAdd_mam_64f", 3, 111));
+  EXPECT_EQ("ownzelmAdd_mam_64f_S2", entered("zelmAdd_mam_64f", 3, 110, "src1Stride2", 16));
+  EXPECT_EQ("ownzelmAdd_mama_32f_L", entered("zelmAdd_mama_32f_L", 4, 41));
+  EXPECT_EQ("ownOMP_zelmAdd_mama_32f_L", entered("zelmAdd_mama_32f_L", 4, 42));
+  EXPECT_EQ("ownzelmAdd_mama_32f_LS2", entered("zelmAdd_mama_32f_L", 4, 41, "src1Stride2", 12));
+  EXPECT_EQ("ownzelmAdd_mama_32f_P", entered("zelmAdd_mama_32f_P", 1000, 1000));     // 3e9 is negative
+  EXPECT_EQ("ownOMP_zelmAdd_mama_32f_P", entered("zelmAdd_mama_32f_P", 1000, 1500)); // 4.5e9 is positive again
 }
 
-// Packed batches whose result is larger than any cache, with dst at every offset from a vector.
 template <class T, class Call> void huge(int arrays, Call call) {
-  constexpr int side = 3, count = (100 << 20) / static_cast<int>(side * side * sizeof(T)) + 5;
-  constexpr size_t each = side * side, n = each * static_cast<size_t>(count);
-  omp_set_num_threads(1);
-  std::vector<T> a(n), b(arrays == 2 ? n : each), result(n + 16);
-  std::iota(a.begin(), a.end(), T(1) / 3);
-  std::iota(b.begin(), b.end(), T(7));
-  for (size_t offset : {size_t{0}, size_t{1}, size_t{3}}) {
-    std::fill(result.begin(), result.end(), T(-1));
-    ASSERT_EQ(zelStatusOk, call(a.data(), b.data(), &result[offset], side * static_cast<int>(sizeof(T)), count));
-    for (size_t i = 0; i < result.size(); ++i) {
-      T expected = i < offset || i >= offset + n ? T(-1) : a[i - offset] + b[(i - offset) % b.size()];
-      ASSERT_EQ(expected, result[i]) << "element " << i << " at offset " << offset;
-    }
-  }
+  constexpr int each = 9, count = hugeCount<T>(each);
+  constexpr auto n = static_cast<size_t>(each) * static_cast<size_t>(count);
+  const std::vector<T> a = hugeValues<T>(n), b = hugeValues<T>(arrays == 2 ? n : each);
+  std::vector<T> expected(n);
+  for (size_t i = 0; i < n; ++i)
+    expected[i] = a[i] + b[i % b.size()];
+  expectHuge(expected, [&](T* dst) { return call(a.data(), b.data(), dst, 3 * static_cast<int>(sizeof(T)), count); });
 }
 
 TEST(Huge, Add_mam) {

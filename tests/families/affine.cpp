@@ -1,7 +1,9 @@
 // The homogeneous transform of points.
-#include "../harness/job.h"
+#include "huge.h"
 
-#include <gtest/gtest.h>
+#include "../harness/job.h"
+#include "../harness/paths.h"
+#include "../harness/run.h"
 
 #include <cmath>
 #include <cstring>
@@ -130,6 +132,21 @@ TEST(Results, GoodLimits) {
     float y[3];
     EXPECT_EQ(zelmAffineTransform3DH_mva_32f(matrix, 16, 4, x, 12, 4, y, 12, 4, 1), zelStatusOk) << w;
   }
+}
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownzelmAffineTransform3DH_mva_32f", entered("zelmAffineTransform3DH_mva_32f", 0, 130)); // 796
+  EXPECT_EQ("ownOMP_zelmAffineTransform3DH_mva_32f", entered("zelmAffineTransform3DH_mva_32f", 0, 131));
+}
+
+TEST(Huge, AffineTransform) {
+  const float matrix[16] = {2, 1, 0, 1, 0, 3, 1, 2, 1, 0, 4, 3, 0.25f, 0, 1, 0.5f};
+  const auto x = hugeValues<float>(3 * static_cast<size_t>(hugeCount<float>(3)));
+  expectHugeAsInSmallCalls<float>(3, [&](int first, int count, float* dst) {
+    return zelmAffineTransform3DH_mva_32f(matrix, 16, 4, &x[static_cast<size_t>(first * 3)], 12, 4, dst, 12, 4, count);
+  });
 }
 
 } // namespace

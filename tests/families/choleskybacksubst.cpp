@@ -1,5 +1,7 @@
 // Solution of systems with a Cholesky factor.
 #include "../harness/job.h"
+#include "../harness/paths.h"
+#include "../harness/run.h"
 
 #include <gtest/gtest.h>
 
@@ -175,6 +177,14 @@ TEST(CholeskyResidual, HilbertMatrices) {
       EXPECT_LT(error32(n, a, 1), 4) << n;
     }
   }
+}
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownzelmCholeskyBackSubst_mava_64f_P", entered("zelmCholeskyBackSubst_mava_64f_P", 3, 136)); // 2040
+  EXPECT_EQ("ownOMP_zelmCholeskyBackSubst_mava_64f_P", entered("zelmCholeskyBackSubst_mava_64f_P", 3, 137));
+  EXPECT_EQ("ownOMP_zelmCholeskyBackSubst_mava_32f_P", entered("zelmCholeskyBackSubst_mava_32f_P", 3, 136));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // Cholesky decomposition.
 #include "../harness/job.h"
+#include "../harness/paths.h"
 #include "../harness/run.h"
 
 #include <gtest/gtest.h>
@@ -185,6 +186,16 @@ TEST(CholeskyFailure, EveryPlace) {
                     << n << " " << count << " " << bad << " " << k << " " << i << " " << j;
               }
         }
+}
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownzelmCholeskyDecomp_ma_32f", entered("zelmCholeskyDecomp_ma_32f", 5, 300)); // 7500
+  EXPECT_EQ("ownOMP_zelmCholeskyDecomp_ma_32f", entered("zelmCholeskyDecomp_ma_32f", 5, 301));
+  EXPECT_EQ("ownzelmCholeskyDecomp_ma_64f_L", entered("zelmCholeskyDecomp_ma_64f_L", 3, 80)); // 720
+  EXPECT_EQ("ownOMP_zelmCholeskyDecomp_ma_64f_L", entered("zelmCholeskyDecomp_ma_64f_L", 3, 81));
+  EXPECT_EQ("ownzelmCholeskyDecomp_ma_64f_LS2", entered("zelmCholeskyDecomp_ma_64f_L", 3, 81, "srcStride2", 16));
 }
 
 } // namespace

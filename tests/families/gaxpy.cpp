@@ -1,6 +1,8 @@
 // Products of a matrix and vectors with a vector added.
 #include "sums.h"
 
+#include "../harness/paths.h"
+
 namespace {
 
 using namespace zelmtest;
@@ -82,6 +84,14 @@ TEST(Results, ProductsOfNegativeZeros) {
 TEST(Results, DataTellsSumsApart) {
   checkDataTellsApart<float>(member("zelmGaxpy_mva_32f"));
   checkDataTellsApart<double>(member("zelmGaxpy_mva_64f"));
+}
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownzelmGaxpy_mvav_32f_L", entered("zelmGaxpy_mvav_32f_L", 10, 25)); // 510
+  EXPECT_EQ("ownOMP_zelmGaxpy_mvav_32f_L", entered("zelmGaxpy_mvav_32f_L", 10, 25, "src1Stride2", 8));
+  EXPECT_EQ("ownzelmGaxpy_mvav_32f_LS2", entered("zelmGaxpy_mvav_32f_L", 10, 24, "src1Stride2", 8)); // 490
 }
 
 } // namespace

@@ -1,5 +1,9 @@
 // Matrices and vectors times constants.
+#include "huge.h"
+
 #include "../harness/job.h"
+#include "../harness/paths.h"
+#include "../harness/run.h"
 
 namespace {
 
@@ -56,5 +60,25 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownzelmMul_vca_32f", entered("zelmMul_vca_32f", 10, 190)); // 2100
+  EXPECT_EQ("ownOMP_zelmMul_vca_32f", entered("zelmMul_vca_32f", 10, 191));
+  EXPECT_EQ("ownzelmMul_mac_32f_L", entered("zelmMul_mac_32f_L", 3, 84)); // 1512
+  EXPECT_EQ("ownOMP_zelmMul_mac_32f_L", entered("zelmMul_mac_32f_L", 3, 84, "srcStride2", 8));
+  EXPECT_EQ("ownOMP_zelmMul_mac_32f_L", entered("zelmMul_mac_32f_L", 3, 84, "dstStride2", 8));
+  EXPECT_EQ("ownzelmMul_mac_32f_LS2", entered("zelmMul_mac_32f_L", 3, 83, "srcStride2", 8));
+}
+
+TEST(Huge, Mul_mac) {
+  constexpr int each = 9, object = 4 * each;
+  const auto src = hugeValues<float>(static_cast<size_t>(each) * static_cast<size_t>(hugeCount<float>(each)));
+  expectHugeAsInSmallCalls<float>(each, [&](int first, int count, float* dst) {
+    return zelmMul_mac_32f(&src[static_cast<size_t>(first * each)], object, 12, 4, 0.7f, dst, object, 12, 4, 3, 3,
+                           count);
+  });
+}
 
 } // namespace

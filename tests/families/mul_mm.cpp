@@ -1,4 +1,5 @@
 // Products of matrices.
+#include "huge.h"
 #include "sums.h"
 
 #include "../harness/paths.h"
@@ -269,26 +270,32 @@ TEST(Results, DataTellsSumsApart) {
   tellsApart<double>(member("zelmMul_mama_64f"));
 }
 
-std::string entered(const char* name, int n, int32_t count, int32_t firstStride2 = 0) {
-  const Member& m = member(name);
-  std::vector<Slot> slots = wildSlots(m, m.square(n, count));
-  for (size_t i = 0; firstStride2 != 0 && i < slots.size(); ++i)
-    if (m.arguments[i].name == "src1Stride2")
-      slots[i].integer = firstStride2;
-  return probe(m, slots);
-}
-
 TEST(Thresholds, Numbers) {
   if (!countedBuild)
     GTEST_SKIP();
   EXPECT_EQ("ownzelmMul_mam_32f", entered("zelmMul_mam_32f", 4, 52)); // 16 + 32 * 52 = 1680
-  EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 4, 52, 8));
+  EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 4, 52, "src1Stride2", 8));
   EXPECT_EQ("ownzelmMul_mama_64f", entered("zelmMul_mama_64f", 10, 12)); // 3600
   EXPECT_EQ("ownOMP_zelmMul_mama_64f", entered("zelmMul_mama_64f", 10, 13));
   EXPECT_EQ("ownzelmMul_mama_32f_P", entered("zelmMul_mama_32f_P", 4, 30)); // 1440
   EXPECT_EQ("ownOMP_zelmMul_mama_32f_P", entered("zelmMul_mama_32f_P", 4, 31));
   EXPECT_EQ("ownzelmMul_mam_32f", entered("zelmMul_mam_32f", 30000, 1)); // wraps below zero
   EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 30000, 2));
+}
+
+TEST(Huge, Mul) {
+  constexpr int side = 3, each = side * side, row = 4 * side, object = 4 * each;
+  const auto n = static_cast<size_t>(each) * static_cast<size_t>(hugeCount<float>(each));
+  const std::vector<float> a = hugeValues<float>(n), b(a.rbegin(), a.rend());
+  expectHugeAsInSmallCalls<float>(each, [&](int first, int count, float* dst) {
+    return zelmMul_mama_32f(&a[static_cast<size_t>(first * each)], object, row, 4, side, side,
+                            &b[static_cast<size_t>(first * each)], object, row, 4, side, side, dst, object, row, 4,
+                            count);
+  });
+  expectHugeAsInSmallCalls<float>(each, [&](int first, int count, float* dst) {
+    return zelmMul_tma_32f(a.data(), row, 4, side, side, &b[static_cast<size_t>(first * each)], object, row, 4, side,
+                           side, dst, object, row, 4, count);
+  });
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // Products of matrices and vectors.
 #include "sums.h"
 
+#include "../harness/paths.h"
+
 namespace {
 
 using namespace zelmtest;
@@ -137,6 +139,14 @@ TEST(Results, ProductsOfNegativeZeros) {
 TEST(Results, DataTellsSumsApart) {
   checkDataTellsApart<float>(member("zelmMul_mva_32f"));
   checkDataTellsApart<double>(member("zelmMul_mva_64f"));
+}
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownOMP_zelmMul_mva_32f", entered("zelmMul_mva_32f", 100, 1)); // 10200, of which the matrix 10000
+  EXPECT_EQ("ownzelmMul_mva_32f", entered("zelmMul_mva_32f", 49, 1));      // 2499
+  EXPECT_EQ("ownOMP_zelmMul_mva_32f", entered("zelmMul_mva_32f", 50, 1));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 // QR decomposition.
 #include "../harness/job.h"
+#include "../harness/paths.h"
+#include "../harness/run.h"
 
 #include <gtest/gtest.h>
 
@@ -146,6 +148,15 @@ TEST(QRNumbers, SmallMatrices) {
   const float leading[] = {0, 2};
   ASSERT_EQ(zelmQRDecomp_m_32f(leading, 4, 4, buffer, dst, 4, 4, 1, 2), zelStatusOk);
   EXPECT_EQ(dst[0], 2.0f); // the negative sign was used
+}
+
+TEST(Thresholds, Numbers) {
+  if (!countedBuild)
+    GTEST_SKIP();
+  EXPECT_EQ("ownzelmQRDecomp_ma_32f", entered("zelmQRDecomp_ma_32f", 4, 87)); // 2784
+  EXPECT_EQ("ownOMP_zelmQRDecomp_ma_32f", entered("zelmQRDecomp_ma_32f", 4, 88));
+  EXPECT_EQ("ownzelmQRDecomp_ma_32f_L", entered("zelmQRDecomp_ma_32f_L", 4, 56)); // 1792
+  EXPECT_EQ("ownOMP_zelmQRDecomp_ma_32f_L", entered("zelmQRDecomp_ma_32f_L", 4, 57));
 }
 
 } // namespace

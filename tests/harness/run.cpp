@@ -385,6 +385,15 @@ std::vector<Slot> wildSlots(const Member& m, const Sizes& sizes) {
   return slots;
 }
 
+std::string entered(const char* name, int n, int32_t count, const char* argument, int32_t value) {
+  const Member& m = member(name);
+  std::vector<Slot> slots = wildSlots(m, m.square(n, count));
+  for (size_t i = 0; i < slots.size(); ++i)
+    if (m.arguments[i].name == argument)
+      slots[i].integer = value;
+  return probe(m, slots);
+}
+
 // ---- One case
 // --------------------------------------------------------------------------------------------------------
 

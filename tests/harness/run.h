@@ -50,6 +50,9 @@ std::string runCase(const Member& m, const CaseSpec& spec);
 // Slots of a call that passes every test, with all pointers wild: for probes and for calls that fail.
 std::vector<Slot> wildSlots(const Member& m, const Sizes& sizes);
 
+// What such a call enters first: all sizes n, one argument changed.
+std::string entered(const char* name, int n, int32_t count, const char* argument = "", int32_t value = 0);
+
 // Sets the line that is printed if a call crashes.
 void announce(const std::string& line);
 void installCrashReport();
