@@ -1,4 +1,6 @@
 // Solution of systems with a Cholesky factor.
+#include "systems.h"
+
 #include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
@@ -74,95 +76,49 @@ Family family() {
 
 const Registration registration{family()};
 
-// Systems A x = b solved by decomposition and back substitution, judged by their backward error
-// max|b - A x| / (max row sum of |A| * max|x| + max|b|), in units of the type's epsilon.
-template <class T, class Decompose, class Solve>
-double backwardError(int n, const std::vector<double>& matrices, int count, Decompose decompose, Solve solve) {
-  const auto size = static_cast<size_t>(n * n);
-  std::vector<T> a(matrices.begin(), matrices.end()), factor(a.size()), b(static_cast<size_t>(n * count)), x(b.size());
-  for (size_t i = 0; i < b.size(); ++i)
-    b[i] = T(1) / static_cast<T>(i % 7 + 1) - T(0.3);
-  EXPECT_EQ(decompose(a.data(), factor.data(), n, count), zelStatusOk);
-  EXPECT_EQ(solve(factor.data(), b.data(), x.data(), n, count), zelStatusOk);
-  double worst = 0;
-  for (int k = 0; k < count; ++k) {
-    const T *const ak = &a[static_cast<size_t>(k) * size], *const bk = &b[static_cast<size_t>(k * n)],
-                   *const xk = &x[static_cast<size_t>(k * n)];
-    long double residual = 0, norm = 0, xs = 0, bs = 0;
-    for (int i = 0; i < n; ++i) {
-      long double r = bk[i], sum = 0;
-      for (int j = 0; j < n; ++j) {
-        r -= static_cast<long double>(ak[i * n + j]) * xk[j];
-        sum += std::fabs(static_cast<long double>(ak[i * n + j]));
-      }
-      residual = std::max(residual, std::fabs(r));
-      norm = std::max(norm, sum);
-      xs = std::max(xs, std::fabs(static_cast<long double>(xk[i])));
-      bs = std::max(bs, std::fabs(static_cast<long double>(bk[i])));
-    }
-    worst = std::max(worst, static_cast<double>(residual / (norm * xs + bs)));
-  }
-  return worst / static_cast<double>(std::numeric_limits<T>::epsilon());
+const auto decompose32 = [](const float* s, float* d, int n, int count) {
+  return zelmCholeskyDecomp_ma_32f(s, 4 * n * n, 4 * n, 4, d, 4 * n * n, 4 * n, 4, n, count);
+};
+const auto decompose64 = [](const double* s, double* d, int n, int count) {
+  return zelmCholeskyDecomp_ma_64f(s, 8 * n * n, 8 * n, 8, d, 8 * n * n, 8 * n, 8, n, count);
+};
+const auto solve32 = [](const float* s, const float* b, float* x, int n, int count) {
+  return zelmCholeskyBackSubst_mava_32f(s, 4 * n * n, 4 * n, 4, b, 4 * n, 4, x, 4 * n, 4, n, count);
+};
+const auto solve64 = [](const double* s, const double* b, double* x, int n, int count) {
+  return zelmCholeskyBackSubst_mava_64f(s, 8 * n * n, 8 * n, 8, b, 8 * n, 8, x, 8 * n, 8, n, count);
+};
+
+void expectSolved32(int n, const std::vector<double>& a, int count) {
+  const Outcome outcome = solveBatch<float>(n, a, count, decompose32, solve32);
+  EXPECT_EQ(outcome.status, zelStatusOk) << n;
+  EXPECT_LT(outcome.error, 4) << n;
+}
+void expectSolved64(int n, const std::vector<double>& a, int count) {
+  const Outcome outcome = solveBatch<double>(n, a, count, decompose64, solve64);
+  EXPECT_EQ(outcome.status, zelStatusOk) << n;
+  EXPECT_LT(outcome.error, 4) << n;
 }
 
-double error32(int n, const std::vector<double>& a, int count) {
-  return backwardError<float>(
-      n, a, count,
-      [](const float* s, float* d, int m, int c) {
-        return zelmCholeskyDecomp_ma_32f(s, 4 * m * m, 4 * m, 4, d, 4 * m * m, 4 * m, 4, m, c);
-      },
-      [](const float* s, const float* b, float* x, int m, int c) {
-        return zelmCholeskyBackSubst_mava_32f(s, 4 * m * m, 4 * m, 4, b, 4 * m, 4, x, 4 * m, 4, m, c);
-      });
-}
-double error64(int n, const std::vector<double>& a, int count) {
-  return backwardError<double>(
-      n, a, count,
-      [](const double* s, double* d, int m, int c) {
-        return zelmCholeskyDecomp_ma_64f(s, 8 * m * m, 8 * m, 8, d, 8 * m * m, 8 * m, 8, m, c);
-      },
-      [](const double* s, const double* b, double* x, int m, int c) {
-        return zelmCholeskyBackSubst_mava_64f(s, 8 * m * m, 8 * m, 8, b, 8 * m, 8, x, 8 * m, 8, m, c);
-      });
-}
-
-// Positive definite with eigenvalues from 1 down to 1 / condition: a product of reflections around a diagonal.
-std::vector<double> definite(int n, int count, double condition) {
-  Rng rng(static_cast<uint64_t>(n));
-  std::vector<double> all;
-  for (int k = 0; k < count; ++k) {
-    std::vector<double> a(static_cast<size_t>(n * n), 0.0), v(static_cast<size_t>(n));
-    auto at = [&](int i, int j) -> double& { return a[static_cast<size_t>(i * n + j)]; };
-    for (int i = 0; i < n; ++i)
-      at(i, i) = std::pow(condition, n == 1 ? 0.0 : -static_cast<double>(i) / (n - 1));
-    for (int turn = 0; turn < 3; ++turn) {
-      double w = 0;
-      for (double& x : v) {
-        x = static_cast<double>(rng.below(2001) - 1000) + 0.5;
-        w += x * x;
-      }
-      for (bool columns : {false, true})
-        for (int i = 0; i < n; ++i) {
-          double s = 0;
-          for (int j = 0; j < n; ++j)
-            s += (columns ? at(j, i) : at(i, j)) * v[static_cast<size_t>(j)];
-          for (int j = 0; j < n; ++j)
-            (columns ? at(j, i) : at(i, j)) -= 2 * s / w * v[static_cast<size_t>(j)];
-        }
-    }
-    for (int i = 0; i < n; ++i)
-      for (int j = 0; j < i; ++j)
-        at(i, j) = at(j, i);
-    all.insert(all.end(), a.begin(), a.end());
-  }
-  return all;
+TEST(CholeskyResidual, Kinds) {
+  const auto kinds = {
+      Kind::Diagonal, Kind::Random, Kind::FirstColumnZero, Kind::LastColumnZero, Kind::HalfOfColumnsZero,
+      Kind::Ill,      Kind::Worse,  Kind::Little,          Kind::Great};
+  const auto expected = [](Kind kind, int) { return hasZeros(kind) ? zelStatusNotPositiveDefinite : zelStatusOk; };
+  checkKinds<float>(kinds, true, {1, 0x1p-100, 0x1p100}, decompose32, solve32, expected);
+  checkKinds<double>(kinds, true, {1, 0x1p-900, 0x1p900}, decompose64, solve64, expected);
 }
 
 TEST(CholeskyResidual, RandomSystems) {
   for (int n : {1, 2, 3, 4, 5, 6, 7, 12, 20}) {
-    const std::vector<double> a = definite(n, 200, 1e4);
-    EXPECT_LT(error32(n, a, 200), 4) << n;
-    EXPECT_LT(error64(n, a, 200), 4) << n;
+    Rng rng(static_cast<uint64_t>(n));
+    std::vector<double> all;
+    for (int k = 0; k < 200; ++k) {
+      const std::vector<double> a = conditioned(n, 1e4, rng, true);
+      all.insert(all.end(), a.begin(), a.end());
+    }
+    expectSolved32(n, all, 200);
+    expectSolved64(n, all, 200);
   }
 }
 
@@ -172,9 +128,9 @@ TEST(CholeskyResidual, HilbertMatrices) {
     for (int i = 0; i < n; ++i)
       for (int j = 0; j < n; ++j)
         a.push_back(1.0 / (i + j + 1));
-    EXPECT_LT(error64(n, a, 1), 4) << n;
+    expectSolved64(n, a, 1);
     if (n <= 5) { // beyond, a matrix rounded to single is not definite any more
-      EXPECT_LT(error32(n, a, 1), 4) << n;
+      expectSolved32(n, a, 1);
     }
   }
 }

@@ -1,4 +1,6 @@
 // Solution of linear systems from an LU decomposition.
+#include "systems.h"
+
 #include "../harness/job.h"
 #include "../harness/run.h"
 
@@ -171,31 +173,6 @@ Solved solveSystem(D decompose, S solve, int n, const std::vector<double>& exact
   return result;
 }
 
-// Q D Q' with orthogonal Q from random reflections and a diagonal from 1 down to 1 / condition.
-std::vector<double> randomMatrix(int n, double condition, Rng& rng) {
-  auto uniform = [&] { return static_cast<double>(rng.next() >> 11) * 0x1p-52 - 1; };
-  std::vector<double> a(static_cast<size_t>(n * n), 0.0);
-  for (int i = 0; i < n; ++i)
-    a[static_cast<size_t>(i * n + i)] = n == 1 ? 1 : std::pow(condition, -static_cast<double>(i) / (n - 1));
-  for (int side = 0; side < 4; ++side) {
-    std::vector<double> v(static_cast<size_t>(n));
-    double square = 0;
-    for (double& x : v) {
-      x = uniform();
-      square += x * x;
-    }
-    for (int i = 0; i < n; ++i) {
-      double dot = 0;
-      auto at = [&](int j) -> double& { return a[static_cast<size_t>(side % 2 == 0 ? i * n + j : j * n + i)]; };
-      for (int j = 0; j < n; ++j)
-        dot += at(j) * v[static_cast<size_t>(j)];
-      for (int j = 0; j < n; ++j)
-        at(j) -= 2 * dot / square * v[static_cast<size_t>(j)];
-    }
-  }
-  return a;
-}
-
 template <class T, class D, class S> void residuals(D decompose, S solve) {
   Rng rng(5);
   double worst = 0;
@@ -206,7 +183,7 @@ template <class T, class D, class S> void residuals(D decompose, S solve) {
         for (double& value : x)
           value = static_cast<double>(rng.within(-9, 9));
         x[0] = 10;
-        const Solved s = solveSystem<T>(decompose, solve, n, randomMatrix(n, condition, rng), x);
+        const Solved s = solveSystem<T>(decompose, solve, n, conditioned(n, condition, rng), x);
         worst = std::max(worst, s.backward);
         const double eps = sizeof(T) == 4 ? 0x1p-23 : 0x1p-52;
         EXPECT_LT(s.forward, 8 * n * condition * eps) << n << " " << condition;
@@ -232,6 +209,30 @@ template <class T, class D, class S> void residuals(D decompose, S solve) {
 TEST(Results, LUResiduals) {
   residuals<float>(zelmLUDecomp_m_32f, zelmLUBackSubst_mv_32f);
   residuals<double>(zelmLUDecomp_m_64f, zelmLUBackSubst_mv_64f);
+}
+
+// A pivot of the loop has to exceed epsilon, however the matrix is scaled; one of sides 3 to 6 the smallest numbers.
+template <class T, class D, class S> void kinds(D decompose, S solve, double little, double great) {
+  constexpr int e = sizeof(T);
+  std::vector<int32_t> index(200);
+  checkKinds<T>(
+      {Kind::Diagonal, Kind::Upper, Kind::Lower, Kind::Random, Kind::FirstColumnZero, Kind::LastColumnZero,
+       Kind::HalfOfColumnsZero, Kind::Ill, Kind::Worse, Kind::Little, Kind::Great},
+      false, {1, little, great},
+      [&](const T* a, T* lu, int n, int count) {
+        return decompose(a, n * n * e, n * e, e, index.data(), lu, n * n * e, n * e, e, n, count);
+      },
+      [&](const T* lu, const T* b, T* x, int n, int count) {
+        return solve(lu, n * n * e, n * e, e, index.data(), b, n * e, e, x, n * e, e, n, count);
+      },
+      [](Kind kind, int n) {
+        return hasZeros(kind) || (kind == Kind::Little && !isFixed(n)) ? zelStatusSingular : zelStatusOk;
+      });
+}
+
+TEST(Results, LUKinds) {
+  kinds<float>(zelmLUDecomp_ma_32f, zelmLUBackSubst_mava_32f, 0x1p-100, 0x1p100);
+  kinds<double>(zelmLUDecomp_ma_64f, zelmLUBackSubst_mava_64f, 0x1p-900, 0x1p900);
 }
 
 } // namespace

@@ -1,4 +1,6 @@
 // Solution of systems with a QR-decomposed matrix.
+#include "systems.h"
+
 #include "../harness/job.h"
 #include "../harness/paths.h"
 
@@ -272,6 +274,42 @@ TEST(QRResidual, HilbertMatrices) {
       EXPECT_LT(static_cast<double>(std::fabs(r) / sum), 8 * std::numeric_limits<double>::epsilon()) << n << " " << i;
     }
   }
+}
+
+// Scaled so that no column of the usual kinds is as short as the limit of its test; `little` is below it.
+template <class T, class D, class S> void kinds(D decompose, S solve, Scales scales) {
+  constexpr int e = sizeof(T);
+  std::vector<T> buffer(10);
+  const auto factor = [&](const T* a, T* qr, int n, int count) {
+    return decompose(a, n * n * e, n * e, e, buffer.data(), qr, n * n * e, n * e, e, n, n, count);
+  };
+  const auto substitute = [&](const T* qr, const T* b, T* x, int n, int count) {
+    return solve(qr, n * n * e, n * e, e, buffer.data(), b, n * e, e, x, n * e, e, n, n, count);
+  };
+  // The last column of a square matrix is not tested.
+  checkKinds<T>({Kind::Diagonal, Kind::Upper, Kind::Lower, Kind::Random, Kind::FirstColumnZero, Kind::LastColumnZero,
+                 Kind::HalfOfColumnsZero, Kind::Ill, Kind::Worse, Kind::Little, Kind::Great},
+                false, scales, factor, substitute, [](Kind kind, int n) {
+                  return kind == Kind::FirstColumnZero || kind == Kind::Little ||
+                                 (kind == Kind::HalfOfColumnsZero && n >= 4)
+                             ? zelStatusDivideByZero
+                             : zelStatusOk;
+                });
+  Rng rng(3);
+  for (int n = 1; n <= 10; ++n) {
+    std::vector<double> all;
+    for (int k = 0; k < 100; ++k)
+      for (double x : conditioned(n, 1e4, rng))
+        all.push_back(x * scales.usual);
+    const Outcome outcome = solveBatch<T>(n, all, 100, factor, substitute);
+    EXPECT_EQ(outcome.status, zelStatusOk) << n;
+    EXPECT_LT(outcome.error, 6) << n;
+  }
+}
+
+TEST(QRResidual, Kinds) {
+  kinds<float>(zelmQRDecomp_ma_32f, zelmQRBackSubst_mava_32f, {0x1p30, 0x1p-14, 0x1p60});
+  kinds<double>(zelmQRDecomp_ma_64f, zelmQRBackSubst_mava_64f, {0x1p60, 0x1p-30, 0x1p500});
 }
 
 } // namespace
