@@ -1,5 +1,6 @@
 // Solution of systems with a Cholesky factor.
 #include "systems.h"
+#include "triangle.h"
 
 #include "../harness/job.h"
 #include "../harness/paths.h"
@@ -133,6 +134,10 @@ TEST(CholeskyResidual, HilbertMatrices) {
       expectSolved32(n, a, 1);
     }
   }
+}
+
+TEST(CholeskyTriangle, UpperElementsAreNotTouched) {
+  checkUpperUntouched();
 }
 
 TEST(Thresholds, Numbers) {

@@ -1,10 +1,11 @@
 // Cholesky decomposition.
+#include "triangle.h"
+
 #include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
 
 #include <gtest/gtest.h>
-#include <sys/mman.h>
 
 #include <cmath>
 #include <limits>
@@ -120,42 +121,8 @@ Family family() {
 
 const Registration registration{family()};
 
-// Every element behind the diagonal lies on a page of its own that nobody may touch: nothing is read or written there,
-// in sources or in results.
-template <class T, class F> void untouchedAbove(F decompose) {
-  constexpr int page = 4096;
-  for (int n : {1, 2, 3, 4, 5, 6, 7, 9})
-    for (int count : {1, 2, 8, 11}) {
-      const size_t bytes = static_cast<size_t>(2 * page) * static_cast<size_t>(n) * static_cast<size_t>(count);
-      auto* base = static_cast<char*>(mmap(nullptr, bytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-      ASSERT_NE(base, MAP_FAILED);
-      // Element (i, i) of object k is the last of page 2 * (k * n + i).
-      auto at = [&](int k, int i, int j) {
-        return reinterpret_cast<T*>(base + page * (2 * (k * n + i) + 1)) - (i - j) - 1;
-      };
-      for (int k = 0; k < count; ++k)
-        for (int i = 0; i < n; ++i) {
-          mprotect(base + page * 2 * (k * n + i), page, PROT_READ | PROT_WRITE);
-          for (int j = 0; j <= i; ++j)
-            *at(k, i, j) = i == j ? T(4) : T(0);
-        }
-      const auto stride1 = static_cast<int32_t>(2 * page - static_cast<int>(sizeof(T)));
-      ASSERT_EQ(decompose(at(0, 0, 0), 2 * page * n, stride1, static_cast<int32_t>(sizeof(T)), n, count), zelStatusOk);
-      for (int k = 0; k < count; ++k)
-        for (int i = 0; i < n; ++i)
-          for (int j = 0; j <= i; ++j)
-            ASSERT_EQ(*at(k, i, j), i == j ? T(0.5) : T(0)) << n << " " << count;
-      munmap(base, bytes);
-    }
-}
-
 TEST(CholeskyTriangle, UpperElementsAreNotTouched) {
-  untouchedAbove<float>([](float* x, int32_t stride0, int32_t stride1, int32_t stride2, int32_t n, int32_t count) {
-    return zelmCholeskyDecomp_ma_32f(x, stride0, stride1, stride2, x, stride0, stride1, stride2, n, count);
-  });
-  untouchedAbove<double>([](double* x, int32_t stride0, int32_t stride1, int32_t stride2, int32_t n, int32_t count) {
-    return zelmCholeskyDecomp_ma_64f(x, stride0, stride1, stride2, x, stride0, stride1, stride2, n, count);
-  });
+  checkUpperUntouched();
 }
 
 // One bad object at every place of a batch: those before it are complete, those behind it as they were.

@@ -303,7 +303,7 @@ template <class T, class D, class S> void kinds(D decompose, S solve, Scales sca
         all.push_back(x * scales.usual);
     const Outcome outcome = solveBatch<T>(n, all, 100, factor, substitute);
     EXPECT_EQ(outcome.status, zelStatusOk) << n;
-    EXPECT_LT(outcome.error, 6) << n;
+    EXPECT_LT(outcome.error, 3) << n;
   }
 }
 

@@ -146,7 +146,7 @@ void checkKinds(std::initializer_list<Kind> kinds, bool symmetric, Scales scales
       const Outcome outcome = solveBatch<T>(n, all, count, decompose, solve);
       EXPECT_EQ(expected(kind, n), outcome.status) << "kind " << static_cast<int>(kind) << " side " << n;
       if (outcome.status == zelStatusOk && !hasZeros(kind)) {
-        EXPECT_LT(outcome.error, 6) << "kind " << static_cast<int>(kind) << " side " << n;
+        EXPECT_LT(outcome.error, 3) << "kind " << static_cast<int>(kind) << " side " << n;
       }
     }
 }
