@@ -25,8 +25,8 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("library")
     parser.add_argument("--header", required=True, help="the public header that says what is exported")
-    parser.add_argument("--text-limit", action="append", default=[], metavar="FAMILY=BYTES",
-                        help="most bytes of a family's functions, fronts and kernels and of all that they share")
+    parser.add_argument("--text-limit", action="append", default=[], metavar="REGEX=BYTES",
+                        help="most bytes of code under symbols that match")
     arguments = parser.parse_args()
     library, faults = arguments.library, []
 
@@ -77,14 +77,13 @@ def main():
                 faults.append("has %d writable bytes in %s" % (size, name))
 
     for limit in arguments.text_limit:
-        family, most = limit.split("=")
-        other = re.compile(r"zelm(?!%s_)[A-Z]\w*_[mtvc]" % family)
+        symbols, most = limit.rsplit("=", 1)
         lines = [line.split() for line in run("nm", "-S", "--defined-only", library).splitlines()]
         size = sum(int(fields[1], 16) for fields in lines
-                   if len(fields) == 4 and fields[2] in "tTwWiV" and not other.search(fields[3]))
-        print("%s: %d bytes of code" % (family, size))
+                   if len(fields) == 4 and fields[2] in "tTwWiV" and re.search(symbols, fields[3]))
+        print("%s: %d bytes of code" % (symbols, size))
         if not 0 < size <= int(most):
-            faults.append("%d bytes of code for %s, not 1 to %s" % (size, family, most))
+            faults.append("%d bytes of code for %s, not 1 to %s" % (size, symbols, most))
 
     for fault in faults:
         print("%s: %s" % (library, fault))
