@@ -166,7 +166,7 @@ template <class T> void checkDataTellsApart(const Member& m) {
       for (const char* text : {row.of[n], row.last[n]})
         if (text != nullptr && *text != '\0' && std::find(texts.begin(), texts.end(), text) == texts.end())
           texts.push_back(text);
-    const auto evaluate = [n](const std::string& text) -> std::function<T(const std::vector<T>&)> {
+    const auto evaluate = [](const std::string& text) -> std::function<T(const std::vector<T>&)> {
       if (text == "zero chain")
         return [](const std::vector<T>& terms) { return sumOf<T>("zero chain", 1, 1, 0, terms); };
       return [text](const std::vector<T>& terms) {
