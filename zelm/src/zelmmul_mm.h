@@ -162,6 +162,11 @@ template <int G, class F> ZELM_INLINE auto sideBySide(const F& f) {
 }
 
 #ifdef __AVX2__
+// The same four elements in both halves, by the load itself: from two loads g++ makes a shuffle.
+ZELM_INLINE Lanes<float, 8> loadTwice(const char* x) {
+  return _mm256_broadcast_ps(reinterpret_cast<const __m128*>(x));
+}
+
 // Element c of the first four in its four lanes, element c + further of the second four in theirs.
 ZELM_INLINE Lanes<float, 8> spreadInGroups(const Lanes<float, 8>& v, int c, int further) {
   switch (c + 4 * further) {
@@ -198,11 +203,15 @@ ZELM_INLINE auto loadRows(const Group<const char, Cut::copies>& x, int64_t strid
   ZELM_UNROLL
   for (int i = 0; i < N; ++i)
     ZELM_UNROLL
-  for (int v = 0; v < Cut::perRow; ++v)
-    rows.row[i][v] = sideBySide<G>([&](int g) __attribute__((always_inline)) {
-      return loadPart<T, W, Cut::used>(x.of[g] + i * stride1 + Cut::from(v) * E,
-                                       packed && inside<W, N>(i, Cut::from(v)));
-    });
+  for (int v = 0; v < Cut::perRow; ++v) {
+    if constexpr (Cut::rowsAtOnce == 2)
+      rows.row[i][v] = loadTwice(x.of[0] + i * stride1);
+    else
+      rows.row[i][v] = sideBySide<G>([&](int g) __attribute__((always_inline)) {
+        return loadPart<T, W, Cut::used>(x.of[g] + i * stride1 + Cut::from(v) * E,
+                                         packed && inside<W, N>(i, Cut::from(v)));
+      });
+  }
   return rows;
 }
 
@@ -408,6 +417,58 @@ template <class T, int first, int o = first / 3> ZELM_INLINE Lanes<T> loadStored
     return joinAt<3 * begin - first>(loadStoredRows<T, first, o + 1>(x), lanes, std::make_integer_sequence<int, W>{});
 }
 
+#ifdef __AVX2__
+// Lane w of p, q or r where Source::of(w) is 0, 1 or 2.
+template <class Source, class V, int... w>
+ZELM_INLINE V chooseLanes(const V& p, const V& q, const V& r, std::integer_sequence<int, w...>) {
+  constexpr int W = sizeof...(w);
+  const V pq = __builtin_shufflevector(p, q, (Source::of(w) == 1 ? w + W : w)...);
+  return __builtin_shufflevector(pq, r, (Source::of(w) == 2 ? w + W : w)...);
+}
+// Lane (w + by) % W as lane w.
+template <int by, class V, int... w> ZELM_INLINE V rotateLanes(const V& v, std::integer_sequence<int, w...>) {
+  return __builtin_shufflevector(v, v, (w + by) % static_cast<int>(sizeof...(w))...);
+}
+
+// W triples without gaps are three vectors. Element c of triple t lies in lane (3 * t + c) % W of one of them, and no
+// two triples share a lane: choosing lanes gives all elements c, those of c = 1 and 2 one and two lanes further on.
+template <int W, int c> struct VectorOfElement {
+  static constexpr int of(int w) { return w % 3 == c ? 0 : (W + w) % 3 == c ? 1 : 2; }
+};
+template <int W, int vector> struct ElementOfVector {
+  static constexpr int of(int w) { return (vector * W + w) % 3; }
+};
+
+// Triple t of all three in lane 3 * t % W.
+template <class T> ZELM_INLINE Tile<Lanes<T>, 1, 3> loadTurnedTriples(const char* x) {
+  constexpr int W = laneCount<T>;
+  const std::make_integer_sequence<int, W> lanes;
+  const auto p = loadLanes<T>(x);
+  const auto q = loadLanes<T>(x + vectorBytes);
+  const auto r = loadLanes<T>(x + 2 * vectorBytes);
+  return {{chooseLanes<VectorOfElement<W, 0>>(p, q, r, lanes),
+           rotateLanes<1>(chooseLanes<VectorOfElement<W, 1>>(p, q, r, lanes), lanes),
+           rotateLanes<2>(chooseLanes<VectorOfElement<W, 2>>(p, q, r, lanes), lanes)}};
+}
+template <class T> ZELM_INLINE void storeTurnedTriples(char* x, const Tile<Lanes<T>, 1, 3>& tile) {
+  constexpr int W = laneCount<T>;
+  const std::make_integer_sequence<int, W> lanes;
+  const auto first = tile(0, 0);
+  const auto second = rotateLanes<W - 1>(tile(0, 1), lanes);
+  const auto third = rotateLanes<W - 2>(tile(0, 2), lanes);
+  storeLanes(x, chooseLanes<ElementOfVector<W, 0>>(first, second, third, lanes));
+  storeLanes(x + vectorBytes, chooseLanes<ElementOfVector<W, 1>>(first, second, third, lanes));
+  storeLanes(x + 2 * vectorBytes, chooseLanes<ElementOfVector<W, 2>>(first, second, third, lanes));
+}
+#else
+template <class T> ZELM_INLINE Tile<Lanes<T>, 1, 3> loadTurnedTriples(const char* x) {
+  return loadTriples<T>(x);
+}
+template <class T> ZELM_INLINE void storeTurnedTriples(char* x, const Tile<Lanes<T>, 1, 3>& tile) {
+  storeTriples<false>(x, tile);
+}
+#endif
+
 // W packed objects of side 3 and one src2 for all: the rows of the result in lanes.
 template <class T, class Transposed12, int v = 0>
 ZELM_INLINE void multiplyTriples(const char* src1, const Tile<Lanes<T>, 3, 3>& second, char* dst) {
@@ -419,13 +480,16 @@ ZELM_INLINE void multiplyTriples(const char* src1, const Tile<Lanes<T>, 3, 3>& s
     for (int k = 0; k < 3; ++k)
       first(0, k) = loadStoredRows<T, v * W>(src1 + 3 * k * E);
   } else {
-    first = loadTriples<T>(src1 + v * 3 * vectorBytes);
+    first = loadTurnedTriples<T>(src1 + v * 3 * vectorBytes);
   }
   Tile<Lanes<T>, 1, 3> result;
   sumProducts<3>(
       result.element, [&](int k) __attribute__((always_inline)) { return first(0, k); },
       [&](int k, int j) __attribute__((always_inline)) { return second(k, j); });
-  storeTriples<false>(dst + v * 3 * vectorBytes, result);
+  if constexpr (Transposed12::src1)
+    storeTriples<false>(dst + v * 3 * vectorBytes, result);
+  else
+    storeTurnedTriples<T>(dst + v * 3 * vectorBytes, result);
   if constexpr (v < 2)
     multiplyTriples<T, Transposed12, v + 1>(src1, second, dst);
 }
@@ -447,12 +511,15 @@ ZELM_NOINLINE void multiplyTriples(const char* src1, const char* src2, char* dst
   }
 }
 
-// The rows of every object follow each other without gaps, in all operands. With four doubles a vector, rows of the
-// result in vectors are as fast or faster.
+// Where the rows of the result go in lanes; with four doubles a vector the stored rows of src1 do not pay for it.
+template <class T, int N, class Transposed12, class Single>
+constexpr bool byTriples = N == 3 && Single::src2 && (sizeof(T) == 4 || vectorBytes == 16 || Transposed12::src1);
+
+// The rows of every object follow each other without gaps, in all operands.
 template <class T, int N, class Transposed12, class Single>
 ZELM_INLINE void multiplyPacked(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
                                 int64_t count) {
-  if constexpr (N == 3 && Single::src2 && !(sizeof(T) == 8 && vectorBytes == 32)) {
+  if constexpr (byTriples<T, N, Transposed12, Single>) {
     constexpr int64_t object = 9 * static_cast<int64_t>(sizeof(T));
     if (src1.list == nullptr && dst.list == nullptr && src1.stride0 == object && dst.stride0 == object &&
         count >= laneCount<T>) {
