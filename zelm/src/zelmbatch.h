@@ -1,4 +1,5 @@
-// Blocks: as many objects of a batch as a vector has elements, one a lane, in any layout.
+// What LU needs beside the blocks of zelmblock.h: choices lane by lane, since each object has pivots of its own, and
+// elements found by an index that differs from lane to lane.
 //
 // The last block of a batch is filled up with the batch's last object. Its lanes compute the same values and store them
 // to the same place, so no lane needs to be left out. Everything is read before anything is stored, so in place works

@@ -1,10 +1,8 @@
-// Blocks: objects k, k + 1, ... of a batch side by side in lanes, whatever
-// their layout.
+// Blocks: objects k, k + 1, ... of a batch side by side in lanes, whatever their layout; Cholesky and QR run on them.
 //
-// A block has one object a lane. Where the batch ends within a block, the lanes
-// behind its last object repeat that object: they are read, computed and stored
-// alike, so that the rest of a batch takes the code of a whole block. Only the
-// elements that are asked for are read or written.
+// A block has one object a lane. Where the batch ends within a block, the lanes behind its last object repeat that
+// object: they are read, computed and stored alike, so that the rest of a batch takes the code of a whole block. Only
+// the elements that are asked for are read or written.
 #pragma once
 
 #include "zelmextent.h"
@@ -376,11 +374,9 @@ template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
     return false;
 }
 
-// Runs through a batch in blocks of Width objects: a vector full, or twice that
-// for two vectors side by side. lanes(block) returns whether the block is done;
-// one that is not has stored nothing, and goes through single(k) object by
-// object, as does a lone object. single returns a status; the first failure
-// ends the batch.
+// Runs through a batch in blocks of Width objects: a vector full, or twice that for two vectors side by side.
+// lanes(block) returns whether the block is done; one that is not has stored nothing, and goes through single(k) object
+// by object, as does a lone object. single returns a status; the first failure ends the batch.
 template <int Width, bool HasNeighbours, class ForLanes, class ForSingle>
 ZELM_INLINE ZelStatus forBlocks(int32_t count, bool neighbours, const ForLanes& lanes, const ForSingle& single) {
   constexpr int W = Width;

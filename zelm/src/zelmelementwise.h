@@ -179,10 +179,11 @@ ZELM_INLINE void combineRegion(Op op, const D& dst, const A& a, const B& b, int6
   if constexpr (Rows > 0 && Columns > 0) {
     if constexpr (W == 1) {
       ZELM_UNROLL
-      for (int r = 0; r < Rows; ++r)
+      for (int r = 0; r < Rows; ++r) {
         ZELM_UNROLL
-      for (int c = 0; c < Columns; ++c)
-        dst.store(i + r, j + c, op(a.load(i + r, j + c), b.load(i + r, j + c)));
+        for (int c = 0; c < Columns; ++c)
+          dst.store(i + r, j + c, op(a.load(i + r, j + c), b.load(i + r, j + c)));
+      }
     } else if constexpr (Columns < W) {
       combineRegion<W / 2, Rows, Columns>(op, dst, a, b, i, j);
     } else if constexpr (Columns > W) {
@@ -301,10 +302,11 @@ template <class T, int N> struct LocalMatrix {
   alignas(vectorBytes) T element[N * N];
   template <class View> ZELM_INLINE explicit LocalMatrix(const View& x) {
     ZELM_UNROLL
-    for (int i = 0; i < N; ++i)
+    for (int i = 0; i < N; ++i) {
       ZELM_UNROLL
-    for (int j = 0; j < N; ++j)
-      element[i * N + j] = x.load(i, j);
+      for (int j = 0; j < N; ++j)
+        element[i * N + j] = x.load(i, j);
+    }
   }
   ZELM_INLINE auto view() const {
     return StridedMatrixView<const T, FixedStep<N* static_cast<int>(sizeof(T))>, UnitStep<const T>>{

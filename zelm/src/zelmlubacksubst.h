@@ -79,10 +79,11 @@ template <class L, int N> ZELM_INLINE void substitute(const LuFactors<L, N>& f, 
 template <int N, class T, class A> ZELM_INLINE LuFactors<T, N> readFactors(const A& src1, const int32_t* p) {
   LuFactors<T, N> f;
   ZELM_UNROLL
-  for (int i = 0; i < N; ++i)
+  for (int i = 0; i < N; ++i) {
     ZELM_UNROLL
-  for (int j = 0; j < N; ++j)
-    f.a(i, j) = src1.load(p[i], j);
+    for (int j = 0; j < N; ++j)
+      f.a(i, j) = src1.load(p[i], j);
+  }
   takeReciprocals(f);
   return f;
 }
@@ -219,10 +220,11 @@ __attribute__((noinline)) void substituteElements(const Positions<N * N>& src1Po
     loadElements<T>(src2Positions.of, N, src2, b.element);
     IntegerOf<Lanes<T>> p[N];
     ZELM_UNROLL
-    for (int i = 0; i < N; ++i)
+    for (int i = 0; i < N; ++i) {
       ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w)
-      p[i][w] = index.of[w][i];
+      for (int w = 0; w < laneCount<T>; ++w)
+        p[i][w] = index.of[w][i];
+    }
     orderRows(a, p, f.a);
     orderRows(b, p, ordered);
     ZELM_UNROLL

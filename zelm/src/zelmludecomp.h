@@ -185,11 +185,13 @@ ZELM_INLINE ZelStatus decomposeOne(const S& src, int32_t* index, const D& dst) {
   const int passed = eliminateOne<N, T>(a, p);
   for (int i = 0; i < N; ++i)
     index[i] = p[i];
-  if (D::strided || passed == N)
-    for (int i = 0; i < passed; ++i)
+  if (D::strided || passed == N) {
+    for (int i = 0; i < passed; ++i) {
       ZELM_UNROLL
-  for (int j = 0; j < N; ++j)
-    dst.store(p[i], j, a(i, j));
+      for (int j = 0; j < N; ++j)
+        dst.store(p[i], j, a(i, j));
+    }
+  }
   return passed == N ? zelStatusOk : zelStatusSingular;
 }
 
@@ -255,10 +257,11 @@ ZELM_INLINE void storeIndex(const PlainAddresses<T, int32_t>& index, const Integ
     }
 #else
     ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w)
+    for (int w = 0; w < laneCount<T>; ++w) {
       ZELM_UNROLL
-    for (int i = 0; i < N; ++i)
-      index.of[w][i] = static_cast<int32_t>(p[i][w]);
+      for (int i = 0; i < N; ++i)
+        index.of[w][i] = static_cast<int32_t>(p[i][w]);
+    }
 #endif
   }
 }

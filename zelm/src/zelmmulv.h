@@ -310,10 +310,11 @@ ZELM_INLINE Tile<L, 1, N> multiplyAdd(const M& matrix, const V& vector, const W&
     result = multiplyTiles<Tree, N, L>(TransposedTile<L, N>{matrix}, vector);
   else
     result = multiplyTiles<Tree, N, L>(matrix, vector);
-  if constexpr (isAddend<W>)
+  if constexpr (isAddend<W>) {
     ZELM_UNROLL
-  for (int i = 0; i < N; ++i)
-    result(0, i) = result(0, i) + addend(0, i);
+    for (int i = 0; i < N; ++i)
+      result(0, i) = result(0, i) + addend(0, i);
+  }
   return result;
 }
 

@@ -299,7 +299,7 @@ ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& bu
 // ---------------------------------------------------------------------------------------------------------------------
 // Back substitution
 
-// Calls body(side) for the square sizes that do without the caller's scratch.
+// Whether this is a square size that does without the caller's scratch.
 ZELM_INLINE bool qrIsSmallSquare(int32_t width, int32_t height) {
   return width == height && width >= 3 && width <= 6;
 }

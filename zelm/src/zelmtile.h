@@ -50,20 +50,22 @@ template <class L, int R, int C> struct Tile {
 template <int R, int C, class View> ZELM_INLINE auto loadTile(const View& x) {
   Tile<typename View::Element, R, C> tile;
   ZELM_UNROLL
-  for (int i = 0; i < R; ++i)
+  for (int i = 0; i < R; ++i) {
     ZELM_UNROLL
-  for (int j = 0; j < C; ++j)
-    tile(i, j) = x.load(i, j);
+    for (int j = 0; j < C; ++j)
+      tile(i, j) = x.load(i, j);
+  }
   return tile;
 }
 
 template <int R, int C, class View>
 ZELM_INLINE void storeTile(const View& x, const Tile<typename View::Element, R, C>& tile) {
   ZELM_UNROLL
-  for (int i = 0; i < R; ++i)
+  for (int i = 0; i < R; ++i) {
     ZELM_UNROLL
-  for (int j = 0; j < C; ++j)
-    x.store(i, j, tile(i, j));
+    for (int j = 0; j < C; ++j)
+      x.store(i, j, tile(i, j));
+  }
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -202,10 +204,11 @@ ZELM_INLINE void loadRun(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T
       lanes[e] = chunk[e];
   } else {
     ZELM_UNROLL
-    for (int e = 0; e < N; ++e)
+    for (int e = 0; e < N; ++e) {
       ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w)
-      lanes[e][w] = loadElement<T>(x.of[w] + offset + e * E);
+      for (int w = 0; w < laneCount<T>; ++w)
+        lanes[e][w] = loadElement<T>(x.of[w] + offset + e * E);
+    }
   }
 }
 
@@ -238,10 +241,11 @@ ZELM_INLINE void storeRun(const ObjectAddresses<T, char>& x, int64_t offset, con
     }
   } else {
     ZELM_UNROLL
-    for (int e = 0; e < N; ++e)
+    for (int e = 0; e < N; ++e) {
       ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w)
-      storeElement<T>(x.of[w] + offset + e * E, lanes[e][w]);
+      for (int w = 0; w < laneCount<T>; ++w)
+        storeElement<T>(x.of[w] + offset + e * E, lanes[e][w]);
+    }
   }
 }
 
@@ -280,19 +284,21 @@ template <Lie lie, int R, int C, class Operand> ZELM_INLINE auto loadTiles(const
   } else if constexpr (lie == Lie::Neighbours) {
     const auto view = x.object(k, C);
     ZELM_UNROLL
-    for (int i = 0; i < R; ++i)
+    for (int i = 0; i < R; ++i) {
       ZELM_UNROLL
-    for (int j = 0; j < C; ++j)
-      tile(i, j) = loadLanes<T>(view.address(i, j));
+      for (int j = 0; j < C; ++j)
+        tile(i, j) = loadLanes<T>(view.address(i, j));
+    }
   } else {
     ZELM_UNROLL
     for (int w = 0; w < laneCount<T>; ++w) {
       const auto view = x.object(k + w, C);
       ZELM_UNROLL
-      for (int i = 0; i < R; ++i)
+      for (int i = 0; i < R; ++i) {
         ZELM_UNROLL
-      for (int j = 0; j < C; ++j)
-        tile(i, j)[w] = view.load(i, j);
+        for (int j = 0; j < C; ++j)
+          tile(i, j)[w] = view.load(i, j);
+      }
     }
   }
   return tile;
@@ -311,19 +317,21 @@ ZELM_INLINE void storeTiles(const Operand& x, int64_t k, const Tile<Lanes<typena
   } else if constexpr (lie == Lie::Neighbours) {
     const auto view = x.object(k, C);
     ZELM_UNROLL
-    for (int i = 0; i < R; ++i)
+    for (int i = 0; i < R; ++i) {
       ZELM_UNROLL
-    for (int j = 0; j < C; ++j)
-      storeLanes(view.address(i, j), tile(i, j));
+      for (int j = 0; j < C; ++j)
+        storeLanes(view.address(i, j), tile(i, j));
+    }
   } else {
     ZELM_UNROLL
     for (int w = 0; w < laneCount<T>; ++w) {
       const auto view = x.object(k + w, C);
       ZELM_UNROLL
-      for (int i = 0; i < R; ++i)
+      for (int i = 0; i < R; ++i) {
         ZELM_UNROLL
-      for (int j = 0; j < C; ++j)
-        view.store(i, j, tile(i, j)[w]);
+        for (int j = 0; j < C; ++j)
+          view.store(i, j, tile(i, j)[w]);
+      }
     }
   }
 }
