@@ -511,6 +511,47 @@ ZELM_NOINLINE void multiplyTriples(const char* src1, const char* src2, char* dst
   }
 }
 
+#ifndef __AVX2__
+// Transposed objects in vectors of four floats: the nine elements of the result as they lie, four, four and one.
+template <bool transposedSrc2>
+ZELM_NOINLINE void multiplyNines(const char* src1, const char* src2, char* dst, int64_t count) {
+  constexpr int E = sizeof(float);
+  Lanes<float> secondOf0123[3];
+  Lanes<float> secondOf4567[3];
+  float secondOf8[3];
+  ZELM_UNROLL
+  for (int k = 0; k < 3; ++k) {
+    const auto b = [&](int j) { return loadElement<float>(src2 + (transposedSrc2 ? 3 * j + k : 3 * k + j) * E); };
+    secondOf0123[k] = Lanes<float>{b(0), b(1), b(2), b(0)};
+    secondOf4567[k] = Lanes<float>{b(1), b(2), b(0), b(1)};
+    secondOf8[k] = b(2);
+  }
+  for (int64_t object = 0; object < count; ++object) {
+    const char* x = src1 + object * 9 * E;
+    char* d = dst + object * 9 * E;
+    Lanes<float> firstOf0123[3];
+    Lanes<float> firstOf4567[3];
+    float firstOf8[3];
+    ZELM_UNROLL
+    for (int k = 0; k < 3; ++k) {
+      // Stored row k, of the last one with the element before it.
+      const auto row = loadLanes<float>(x + (k < 2 ? 3 * k : 5) * E);
+      firstOf0123[k] =
+          k < 2 ? __builtin_shufflevector(row, row, 0, 0, 0, 1) : __builtin_shufflevector(row, row, 1, 1, 1, 2);
+      firstOf4567[k] =
+          k < 2 ? __builtin_shufflevector(row, row, 1, 1, 2, 2) : __builtin_shufflevector(row, row, 2, 2, 3, 3);
+      firstOf8[k] = loadElement<float>(x + (3 * k + 2) * E);
+    }
+    const auto sum = [](const auto& a, const auto& b) __attribute__((always_inline)) {
+      return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+    };
+    storeLanes(d, sum(firstOf0123, secondOf0123));
+    storeLanes(d + 4 * E, sum(firstOf4567, secondOf4567));
+    storeElement(d + 8 * E, sum(firstOf8, secondOf8));
+  }
+}
+#endif
+
 // Where the rows of the result go in lanes; with four doubles a vector the stored rows of src1 do not pay for it.
 template <class T, int N, class Transposed12, class Single>
 constexpr bool byTriples = N == 3 && Single::src2 && (sizeof(T) == 4 || vectorBytes == 16 || Transposed12::src1);
@@ -523,6 +564,12 @@ ZELM_INLINE void multiplyPacked(const Objects<const T>& src1, const Objects<cons
     constexpr int64_t object = 9 * static_cast<int64_t>(sizeof(T));
     if (src1.list == nullptr && dst.list == nullptr && src1.stride0 == object && dst.stride0 == object &&
         count >= laneCount<T>) {
+#ifndef __AVX2__
+      if constexpr (sizeof(T) == 4 && Transposed12::src1) {
+        multiplyNines<Transposed12::src2>(src1.origin, src2.origin, dst.origin, count);
+        return;
+      }
+#endif
       multiplyTriples<T, Transposed12>(src1.origin, src2.origin, dst.origin, count);
       return;
     }
