@@ -164,8 +164,8 @@ struct NoAddend {
 };
 
 template <class> constexpr bool isAddend = true;
-template <> constexpr bool isAddend<const NoAddend> = false;
-template <> constexpr bool isAddend<NoAddend> = false;
+template <> inline constexpr bool isAddend<const NoAddend> = false;
+template <> inline constexpr bool isAddend<NoAddend> = false;
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Objects of a known number of elements, one behind the other without gaps
@@ -409,8 +409,8 @@ ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T
 // The sums of four rows whose products lie along the lanes. Each step adds the pairs that the tree adds, and halves
 // what is left.
 template <class Tree, class T> constexpr bool sumsAlongRows = false;
-template <> constexpr bool sumsAlongRows<EvenOdd, float> = true;
-template <> constexpr bool sumsAlongRows<Pairs64, double> = true;
+template <> inline constexpr bool sumsAlongRows<EvenOdd, float> = true;
+template <> inline constexpr bool sumsAlongRows<Pairs64, double> = true;
 
 #ifdef __AVX2__
 // Two objects: x and y are their vectors, each in both halves.
