@@ -1,5 +1,5 @@
 #!/bin/sh
-# Builds everything with warnings as errors and runs all tests: tools/test.sh [--sanitize]
+# Builds library, tests and examples with warnings as errors and runs all tests: tools/test.sh [--sanitize]
 # CXX=clang++ takes clang and its OpenMP runtime; --sanitize builds with the address and undefined sanitizers.
 # Works on a fresh Debian 12.
 set -eu

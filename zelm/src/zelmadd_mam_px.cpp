@@ -8,7 +8,7 @@ KERNEL(ownzelmAdd_mat_32f_S2,  MAT_S, ANY, float,  addMatrices, Sizes<3, 4, 5, 6
 KERNEL(ownzelmAdd_tam_32f_S2,  TAM_S, ANY, float,  addMatrices, Sizes<3, 4, 5, 6>)
 KERNEL(ownzelmAdd_tat_32f_S2,  TAT_S, ANY, float,  addMatrices, Sizes<3, 4, 5, 6>)
 KERNEL(ownzelmAdd_mam_64f_S2,  MAM_S, ANY, double, addMatrices, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmAdd_mat_64f_S2,  MAT_S, ANY, double, addMatrices, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmAdd_mat_64f_S2,  MAT_S, ANY, double, addMatrices, Sizes<>) // unlike its 32f sibling
 KERNEL(ownzelmAdd_tam_64f_S2,  TAM_S, ANY, double, addMatrices, Sizes<3, 4, 5, 6>)
 KERNEL(ownzelmAdd_tat_64f_S2,  TAT_S, ANY, double, addMatrices, Sizes<3, 4, 5, 6>)
 KERNEL(ownzelmAdd_mat_32f_LS2, MAT_L, ANY, float,  addMatrices, Sizes<>)

@@ -52,7 +52,7 @@ bool runTeam(int32_t threads, int32_t count, int32_t scratchBytes, ShareFunction
              const Done& done) {
   char* scratch = nullptr;
   if (scratchBytes != 0) {
-    // The total wraps in 32 bits before it is widened.
+    // The total is a 32-bit number; one that does not fit cannot be had.
     const auto total = static_cast<int32_t>(static_cast<uint32_t>(threads) * static_cast<uint32_t>(scratchBytes));
     const bool fits = static_cast<int64_t>(threads) * scratchBytes == total;
     scratch = fits ? allocateScratch(static_cast<std::size_t>(total)) : nullptr;
