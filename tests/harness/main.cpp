@@ -1,4 +1,4 @@
-// Compiled once for each program: ZELMTEST_COUNTED tells whether the library build counts entries.
+// ZELMTEST_COUNTED tells whether the program's library reports entries.
 #include "paths.h"
 #include "run.h"
 

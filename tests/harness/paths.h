@@ -1,4 +1,4 @@
-// What a counted build tells on entry to its kernels and fronts.
+// The entries of kernels and fronts.
 #ifndef ZELMTEST_PATHS_H
 #define ZELMTEST_PATHS_H
 
@@ -6,7 +6,7 @@
 
 namespace zelmtest {
 
-extern const bool countedBuild; // the program is linked to a build that counts entries (main.cpp)
+extern const bool countedBuild; // the program's library reports entries (main.cpp)
 
 void clearEntries();
 std::vector<std::string> entries(); // names in the order of entry, all threads

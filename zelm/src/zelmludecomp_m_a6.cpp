@@ -2,7 +2,6 @@
 #include "zelmludecomp.h"
 
 // clang-format off
-//     kernel                       arguments     strides type   body           general loop
-KERNEL(ownzelmLUDecomp_m_32f,       LUDECOMP_M_S, UNIT, float, decompose,     Otherwise<ownzelmLUDecomp_m_32f_S_com>)
-KERNEL(ownzelmLUDecomp_m_32f_S_com, LUDECOMP_M_S, UNIT, float, decomposeLoop, InDst)
+//     kernel                 arguments     strides type   body       general loop
+KERNEL(ownzelmLUDecomp_m_32f, LUDECOMP_M_S, UNIT, float, decompose, Otherwise<ownzelmLUDecomp_m_32f_S_com>)
 // clang-format on

@@ -2,7 +2,6 @@
 #include "zelmludecomp.h"
 
 // clang-format off
-//     kernel                       arguments     strides type   body           general loop
-KERNEL(ownzelmLUDecomp_m_64f,       LUDECOMP_M_S, UNIT, double, decompose,     Otherwise<ownzelmLUDecomp_m_64f_S_com>)
-KERNEL(ownzelmLUDecomp_m_64f_S_com, LUDECOMP_M_S, UNIT, double, decomposeLoop, InDst)
+//     kernel                 arguments     strides type    body       general loop
+KERNEL(ownzelmLUDecomp_m_64f, LUDECOMP_M_S, UNIT, double, decompose, Otherwise<ownzelmLUDecomp_m_64f_S_com>)
 // clang-format on

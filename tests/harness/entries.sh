@@ -1,0 +1,7 @@
+#!/bin/sh
+# Lists the kernels and fronts of the archive for entries.cpp and for the linker: entries.sh NM ARCHIVE INC OPTIONS
+set -eu
+names=$("$1" --defined-only "$2" | sed -n 's/.* T \(own\(OMP_\)\{0,1\}zelm[A-Za-z0-9_]*\)$/\1/p')
+[ -n "$names" ]
+printf 'ENTRY %s\n' $names > "$3"
+printf -- '--wrap=%s\n' $names > "$4"
