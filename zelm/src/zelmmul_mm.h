@@ -23,6 +23,11 @@ template <int N, int V, class L, class A, class B> ZELM_INLINE void sumProducts(
   }
 }
 
+// Before the next product is added: otherwise compilers load all factors first, more than there are registers.
+template <class V> ZELM_INLINE void holdInRegister(V& v) {
+  asm volatile("" : "+x"(v));
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Parts of vectors
 
@@ -137,7 +142,12 @@ template <class T, int N, bool turned> struct RowVectors {
   using Vector = Lanes<T, W * copies>;
   struct Rows {
     Vector row[N][perRow];
+    ZELM_INLINE const Vector& operator()(int i, int v) const { return row[i][v]; }
   };
+  // Where the rows of src2 are too many for the registers, the sums of some rows of the result run side by side, and a
+  // vector of src2 is loaded once for all of them.
+  static constexpr bool overflows = N * perRow >= 12;
+  static constexpr int rowsTogether = N == 6 ? 3 : smaller(N, 9 / perRow);
 };
 
 // The addresses of what lies side by side: objects k, k + 1, ..., the last object of the batch standing in for those
@@ -193,27 +203,34 @@ template <int W, int N> constexpr bool inside(int i, int j) {
   return i * N + j + W <= N * N;
 }
 
-// The stored rows of a group as vectors.
+// Vector v of stored row i of a group.
+template <class T, int N, bool packed, class Cut>
+ZELM_INLINE auto loadRow(const Group<const char, Cut::copies>& x, int64_t stride1, int i, int v) {
+  if constexpr (Cut::rowsAtOnce == 2)
+    return loadTwice(x.of[0] + i * stride1);
+  else
+    return sideBySide<Cut::copies>([&](int g) __attribute__((always_inline)) {
+      return loadPart<T, Cut::W, Cut::used>(x.of[g] + i * stride1 + Cut::from(v) * static_cast<int64_t>(sizeof(T)),
+                                            packed && inside<Cut::W, N>(i, Cut::from(v)));
+    });
+}
+
+// The stored rows of a group as vectors: all of them, or each when it is asked for.
 template <class T, int N, bool packed, class Cut>
 ZELM_INLINE auto loadRows(const Group<const char, Cut::copies>& x, int64_t stride1) {
-  constexpr int G = Cut::copies;
-  constexpr int W = Cut::W;
-  constexpr auto E = static_cast<int64_t>(sizeof(T));
   typename Cut::Rows rows;
   ZELM_UNROLL
   for (int i = 0; i < N; ++i)
     ZELM_UNROLL
-  for (int v = 0; v < Cut::perRow; ++v) {
-    if constexpr (Cut::rowsAtOnce == 2)
-      rows.row[i][v] = loadTwice(x.of[0] + i * stride1);
-    else
-      rows.row[i][v] = sideBySide<G>([&](int g) __attribute__((always_inline)) {
-        return loadPart<T, W, Cut::used>(x.of[g] + i * stride1 + Cut::from(v) * E,
-                                         packed && inside<W, N>(i, Cut::from(v)));
-      });
-  }
+  for (int v = 0; v < Cut::perRow; ++v)
+    rows.row[i][v] = loadRow<T, N, packed, Cut>(x, stride1, i, v);
   return rows;
 }
+template <class T, int N, bool packed, class Cut> struct RowsInMemory {
+  Group<const char, Cut::copies> x;
+  int64_t stride1;
+  ZELM_INLINE auto operator()(int i, int v) const { return loadRow<T, N, packed, Cut>(x, stride1, i, v); }
+};
 
 // The stored columns of a group as vectors.
 template <class T, int N, bool packed, class Cut>
@@ -312,33 +329,68 @@ ZELM_INLINE typename Cut::Rows loadRowPairs(const char* x, int64_t stride1) {
   return rows;
 }
 
-// Rows are stored in ascending order: what a vector writes behind its row is the next row's. The result's group has the
-// addresses of the objects, or of the two rows that are computed at once.
-template <class T, int N, bool packed, class Cut, class Spread>
-ZELM_INLINE void multiplyGroup(const Spread& a, const typename Cut::Rows& b, const Group<char, Cut::copies>& d,
-                               int64_t stride1) {
+// Rows i, i + 1, ... are stored in ascending order: what a vector writes behind its row is the next row's. The result's
+// group has the addresses of the objects, or of the two rows that are computed at once.
+template <class T, int N, bool packed, class Cut, int R>
+ZELM_INLINE void storeSums(const typename Cut::Vector (&sum)[R][Cut::perRow], const Group<char, Cut::copies>& d,
+                           int64_t stride1, int i) {
   constexpr int W = Cut::W;
-  constexpr auto E = static_cast<int64_t>(sizeof(T));
   ZELM_UNROLL
-  for (int i = 0; i < N; i += Cut::rowsAtOnce) {
-    typename Cut::Vector sum[Cut::perRow];
-    sumProducts<N>(
-        sum, [&](int k) __attribute__((always_inline)) { return a(i, k); },
-        [&](int k, int v) __attribute__((always_inline)) { return b.row[k][v]; });
+  for (int r = 0; r < R; ++r)
     ZELM_UNROLL
-    for (int v = 0; v < Cut::perRow; ++v) {
-      const int64_t at = i * stride1 + Cut::from(v) * E;
-      const bool all = packed && inside<W, N>(i, Cut::from(v));
-      if constexpr (Cut::copies == 1) {
-        storePart<T, W, Cut::used>(d.of[0] + at, sum[v], all);
-      } else if constexpr (packed && Cut::rowsAtOnce == 2) {
-        storeLanes(d.of[0] + at, sum[v]);
-      } else {
-        storePart<T, W, Cut::used>(d.of[0] + at, lowPart<W>(sum[v]), all);
-        storePart<T, W, Cut::used>(d.of[1] + at, highPart<W>(sum[v]), all);
-      }
+  for (int v = 0; v < Cut::perRow; ++v) {
+    const int64_t at = (i + r) * stride1 + Cut::from(v) * static_cast<int64_t>(sizeof(T));
+    const bool all = packed && inside<W, N>(i + r, Cut::from(v));
+    if constexpr (Cut::copies == 1) {
+      storePart<T, W, Cut::used>(d.of[0] + at, sum[r][v], all);
+    } else if constexpr (packed && Cut::rowsAtOnce == 2) {
+      storeLanes(d.of[0] + at, sum[r][v]);
+    } else {
+      storePart<T, W, Cut::used>(d.of[0] + at, lowPart<W>(sum[r][v]), all);
+      storePart<T, W, Cut::used>(d.of[1] + at, highPart<W>(sum[r][v]), all);
     }
   }
+}
+
+template <class T, int N, bool packed, class Cut, class Spread, class Rows>
+ZELM_INLINE void multiplyGroup(const Spread& a, const Rows& b, const Group<char, Cut::copies>& d, int64_t stride1) {
+  ZELM_UNROLL
+  for (int i = 0; i < N; i += Cut::rowsAtOnce) {
+    typename Cut::Vector sum[1][Cut::perRow];
+    sumProducts<N>(
+        sum[0], [&](int k) __attribute__((always_inline)) { return a(i, k); },
+        [&](int k, int v) __attribute__((always_inline)) { return b(k, v); });
+    storeSums<T, N, packed, Cut, 1>(sum, d, stride1, i);
+  }
+}
+
+// The same with the rows from i on some at a time.
+template <class T, int N, bool packed, class Cut, int i = 0, class Spread, class Rows>
+ZELM_INLINE void multiplyTogether(const Spread& a, const Rows& b, const Group<char, Cut::copies>& d, int64_t stride1) {
+  constexpr int R = smaller(N - i, Cut::rowsTogether);
+  typename Cut::Vector sum[R][Cut::perRow];
+  ZELM_UNROLL
+  for (int k = 0; k < N; ++k) {
+    typename Cut::Vector factor[R];
+    ZELM_UNROLL
+    for (int r = 0; r < R; ++r)
+      factor[r] = a(i + r, k);
+    ZELM_UNROLL
+    for (int v = 0; v < Cut::perRow; ++v) {
+      const auto second = b(k, v);
+      ZELM_UNROLL
+      for (int r = 0; r < R; ++r)
+        sum[r][v] = k == 0 ? factor[r] * second : sum[r][v] + factor[r] * second;
+    }
+    ZELM_UNROLL
+    for (int r = 0; r < R; ++r)
+      ZELM_UNROLL
+    for (int v = 0; v < Cut::perRow; ++v)
+      holdInRegister(sum[r][v]);
+  }
+  storeSums<T, N, packed, Cut, R>(sum, d, stride1, i);
+  if constexpr (i + R < N)
+    multiplyTogether<T, N, packed, Cut, i + R>(a, b, d, stride1);
 }
 
 template <bool first, bool second> struct Which {
@@ -353,6 +405,7 @@ ZELM_INLINE void multiplyObjects(const Objects<const T> src1, const Objects<cons
                                  int64_t count) {
   using Cut = RowVectors<T, N, Transposed12::src2>;
   constexpr bool transposed = Transposed12::src1;
+  constexpr bool together = Cut::overflows && !Single::src2 && !Transposed12::src2;
   constexpr int64_t step = Cut::objectsAtOnce;
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
   const auto firstOf = [&](int64_t k) __attribute__((always_inline)) {
@@ -373,6 +426,8 @@ ZELM_INLINE void multiplyObjects(const Objects<const T> src1, const Objects<cons
     const auto group = groupOf<Cut>(src2, k, Single::src2 ? 1 : count);
     if constexpr (Transposed12::src2)
       return loadColumns<T, N, packed, Cut>(group, stride1);
+    else if constexpr (together)
+      return RowsInMemory<T, N, packed, Cut>{group, stride1};
     else
       return loadRows<T, N, packed, Cut>(group, stride1);
   };
@@ -381,7 +436,10 @@ ZELM_INLINE void multiplyObjects(const Objects<const T> src1, const Objects<cons
     auto group = groupOf<Cut>(dst, k, count);
     if constexpr (Cut::rowsAtOnce == 2)
       group.of[1] += stride1;
-    multiplyGroup<T, N, packed, Cut>(a, b, group, stride1);
+    if constexpr (together)
+      multiplyTogether<T, N, packed, Cut>(a, b, group, stride1);
+    else
+      multiplyGroup<T, N, packed, Cut>(a, b, group, stride1);
   };
   // A single operand stays in registers.
   if constexpr (Single::src1) {
