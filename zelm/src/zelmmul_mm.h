@@ -104,10 +104,6 @@ template <class T> struct Objects {
   ZELM_INLINE Byte<T>* operator[](int64_t k) const {
     return list == nullptr ? origin + k * stride0 : reinterpret_cast<Byte<T>*>(list[k]) + stride0;
   }
-  ZELM_INLINE Objects from(int64_t k) const {
-    return list == nullptr ? Objects{origin + k * stride0, nullptr, stride0, stride1}
-                           : Objects{origin, list + k, stride0, stride1};
-  }
 };
 template <class T, class S> ZELM_INLINE Objects<T> objectsOf(const Matrix<T, S>& x) {
   return {reinterpret_cast<Byte<T>*>(x.pointer), nullptr, 0, x.stride1};
@@ -118,6 +114,13 @@ template <class T, class S> ZELM_INLINE Objects<T> objectsOf(const Matrices<T, S
 template <class T, class S> ZELM_INLINE Objects<T> objectsOf(const MatricesL<T, S>& x) {
   return {nullptr, x.list, x.shift, x.stride1};
 }
+
+// Objects of side N one behind the other without gaps.
+template <class T, int N> struct PackedRun {
+  static constexpr int64_t stride1 = N * static_cast<int64_t>(sizeof(T));
+  Byte<T>* origin;
+  ZELM_INLINE Byte<T>* operator[](int64_t k) const { return origin + k * (N * stride1); }
+};
 
 constexpr int smaller(int a, int b) {
   return a < b ? a : b;
@@ -153,14 +156,14 @@ template <class T, int N, bool turned> struct RowVectors {
 // The addresses of what lies side by side: objects k, k + 1, ..., the last object of the batch standing in for those
 // that the last group lacks; or one object as often.
 template <class C, int G> struct Group { C* of[G]; };
-template <class Cut, class T>
-ZELM_INLINE Group<Byte<T>, Cut::copies> groupOf(const Objects<T>& x, int64_t k, int64_t count) {
+template <class Cut, class X> ZELM_INLINE auto groupOf(const X& x, int64_t k, int64_t count) {
+  using C = std::remove_pointer_t<decltype(x[k])>;
   if constexpr (Cut::copies == 1)
-    return {{x[k]}};
+    return Group<C, 1>{{x[k]}};
   else if constexpr (Cut::objectsAtOnce == 1)
-    return {{x[k], x[k]}};
+    return Group<C, 2>{{x[k], x[k]}};
   else
-    return {{x[k], x[k + 1 < count ? k + 1 : k]}};
+    return Group<C, 2>{{x[k], x[k + 1 < count ? k + 1 : k]}};
 }
 
 // f(0), or f(0) and f(1) side by side.
@@ -400,9 +403,8 @@ template <bool first, bool second> struct Which {
 
 // Packed: the rows of every object follow each other without gaps, in all operands. The operands are copies, which
 // stores to the result cannot change.
-template <class T, int N, class Transposed12, class Single, bool packed>
-ZELM_INLINE void multiplyObjects(const Objects<const T> src1, const Objects<const T> src2, const Objects<T> dst,
-                                 int64_t count) {
+template <class T, int N, class Transposed12, class Single, bool packed, class A, class B, class D>
+ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_t count) {
   using Cut = RowVectors<T, N, Transposed12::src2>;
   constexpr bool transposed = Transposed12::src1;
   constexpr bool together = Cut::overflows && !Single::src2 && !Transposed12::src2;
@@ -614,57 +616,85 @@ ZELM_NOINLINE void multiplyNines(const char* src1, const char* src2, char* dst, 
 template <class T, int N, class Transposed12, class Single>
 constexpr bool byTriples = N == 3 && Single::src2 && (sizeof(T) == 4 || vectorBytes == 16 || Transposed12::src1);
 
-// The rows of every object follow each other without gaps, in all operands.
+// The objects of every operand that is not a single one follow each other without gaps.
 template <class T, int N, class Transposed12, class Single>
-ZELM_INLINE void multiplyPacked(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
-                                int64_t count) {
+ZELM_NOINLINE void multiplyRun(const char* src1, const char* src2, char* dst, int64_t count) {
   if constexpr (byTriples<T, N, Transposed12, Single>) {
-    constexpr int64_t object = 9 * static_cast<int64_t>(sizeof(T));
-    if (src1.list == nullptr && dst.list == nullptr && src1.stride0 == object && dst.stride0 == object &&
-        count >= laneCount<T>) {
+    if (count >= laneCount<T>) {
 #ifndef __AVX2__
       if constexpr (sizeof(T) == 4 && Transposed12::src1) {
-        multiplyNines<Transposed12::src2>(src1.origin, src2.origin, dst.origin, count);
+        multiplyNines<Transposed12::src2>(src1, src2, dst, count);
         return;
       }
 #endif
-      multiplyTriples<T, Transposed12>(src1.origin, src2.origin, dst.origin, count);
+      multiplyTriples<T, Transposed12>(src1, src2, dst, count);
       return;
     }
   }
-  multiplyObjects<T, N, Transposed12, Single, true>(src1, src2, dst, count);
+  multiplyObjects<T, N, Transposed12, Single, true>(PackedRun<const T, N>{src1}, PackedRun<const T, N>{src2},
+                                                    PackedRun<T, N>{dst}, count);
 }
 
-// Copies past the caches; both addresses are multiples of the element size.
-inline void copyStreaming(char* dst, const char* src, int64_t bytes) {
-  const int64_t lead = -reinterpret_cast<std::intptr_t>(dst) & (vectorBytes - 1);
-  std::memcpy(dst, src, static_cast<std::size_t>(lead));
-  int64_t at = lead;
-  for (; at + vectorBytes <= bytes; at += vectorBytes)
-    streamLanes(dst + at, loadLanes<float>(src + at));
-  std::memcpy(dst + at, src + at, static_cast<std::size_t>(bytes - at));
+// Writes what comes in pieces to one run of bytes past the caches, in whole vectors; what is left of a piece waits for
+// the next one. No piece is smaller than a vector, and none larger than mostBytes.
+template <int64_t mostBytes> class StreamedRun {
+public:
+  explicit StreamedRun(char* dst) : dst_(dst), lead_(-reinterpret_cast<std::intptr_t>(dst) & (vectorBytes - 1)) {}
+  // Where the next piece goes.
+  ZELM_INLINE char* place() { return bytes_ + held_; }
+  ZELM_INLINE void put(int64_t bytes) {
+    const int64_t end = held_ + bytes;
+    std::memcpy(dst_, bytes_, static_cast<std::size_t>(lead_));
+    int64_t at = lead_;
+    for (; at + vectorBytes <= end; at += vectorBytes)
+      streamLanes(dst_ + at, loadLanes<float>(bytes_ + at));
+    dst_ += at;
+    lead_ = 0;
+    held_ = end - at;
+    storeLanes(bytes_, loadLanes<float>(bytes_ + at));
+  }
+  ZELM_INLINE void finish() {
+    std::memcpy(dst_, bytes_, static_cast<std::size_t>(held_));
+    _mm_sfence();
+  }
+
+private:
+  char* dst_;
+  int64_t lead_; // bytes before the first whole vector
+  int64_t held_ = 0;
+  alignas(vectorBytes) char bytes_[mostBytes + 2 * vectorBytes];
+};
+
+// A result far larger than the caches: some objects at a time, then past the caches.
+template <class T, int N, class Transposed12, class Single>
+ZELM_INLINE void multiplyStreaming(const char* src1, const char* src2, char* dst, int64_t count) {
+  constexpr auto object = static_cast<int64_t>(N * N * sizeof(T));
+  constexpr int64_t block = 8 * larger(1, static_cast<int>(1536 / (8 * object)));
+  StreamedRun<block * object> results(dst);
+  for (int64_t k = 0; k < count; k += block) {
+    const int64_t n = count - k < block ? count - k : block;
+    multiplyRun<T, N, Transposed12, Single>(src1 + (Single::src1 ? 0 : k * object),
+                                            src2 + (Single::src2 ? 0 : k * object), results.place(), n);
+    results.put(n * object);
+  }
+  results.finish();
 }
 
 template <class T, int N, class Transposed12, class Single>
 ZELM_NOINLINE void multiplyUnit(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
                                 int64_t count) {
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
-  if (src1.stride1 != row || src2.stride1 != row || dst.stride1 != row) {
+  const auto isRun = [count](const auto& x, bool single) {
+    return single || (x.list == nullptr && (x.stride0 == N * row || count == 1));
+  };
+  if (src1.stride1 != row || src2.stride1 != row || dst.stride1 != row)
     multiplyObjects<T, N, Transposed12, Single, false>(src1, src2, dst, count);
-  } else if (dst.list == nullptr && dst.stride0 == N * row && N * row * count >= streamingBytes) {
-    // A result far larger than the caches: some objects at a time, then past the caches.
-    constexpr int64_t block = 32;
-    alignas(vectorBytes) char results[static_cast<std::size_t>(block * N * row)];
-    for (int64_t k = 0; k < count; k += block) {
-      const int64_t n = count - k < block ? count - k : block;
-      multiplyPacked<T, N, Transposed12, Single>(src1.from(Single::src1 ? 0 : k), src2.from(Single::src2 ? 0 : k),
-                                                 {results, nullptr, N * row, row}, n);
-      copyStreaming(dst[k], results, n * N * row);
-    }
-    _mm_sfence();
-  } else {
-    multiplyPacked<T, N, Transposed12, Single>(src1, src2, dst, count);
-  }
+  else if (!isRun(src1, Single::src1) || !isRun(src2, Single::src2) || !isRun(dst, false))
+    multiplyObjects<T, N, Transposed12, Single, true>(src1, src2, dst, count);
+  else if (N * row * count >= streamingBytes)
+    multiplyStreaming<T, N, Transposed12, Single>(src1.origin, src2.origin, dst.origin, count);
+  else
+    multiplyRun<T, N, Transposed12, Single>(src1.origin, src2.origin, dst.origin, count);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
