@@ -147,9 +147,10 @@ template <class T, int N, bool turned> struct RowVectors {
     Vector row[N][perRow];
     ZELM_INLINE const Vector& operator()(int i, int v) const { return row[i][v]; }
   };
-  // Where the rows of src2 are too many for the registers, the sums of some rows of the result run side by side, and a
-  // vector of src2 is loaded once for all of them.
+  // The sums of some rows of the result run side by side, and a vector of src2 is loaded once for all of them, where
+  // the rows of src2 are too many for the registers, and where that has been measured to be quicker.
   static constexpr bool overflows = N * perRow >= 12;
+  static constexpr bool quickTogether = vectorBytes == 16 && N == (sizeof(T) == 4 ? 4 : 3);
   static constexpr int rowsTogether = N == 6 ? 3 : smaller(N, 9 / perRow);
 };
 
@@ -389,7 +390,8 @@ ZELM_INLINE void multiplyTogether(const Spread& a, const Rows& b, const Group<ch
     for (int r = 0; r < R; ++r)
       ZELM_UNROLL
     for (int v = 0; v < Cut::perRow; ++v)
-      holdInRegister(sum[r][v]);
+      if constexpr (N > 3)
+        holdInRegister(sum[r][v]);
   }
   storeSums<T, N, packed, Cut, R>(sum, d, stride1, i);
   if constexpr (i + R < N)
@@ -407,7 +409,7 @@ template <class T, int N, class Transposed12, class Single, bool packed, class A
 ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_t count) {
   using Cut = RowVectors<T, N, Transposed12::src2>;
   constexpr bool transposed = Transposed12::src1;
-  constexpr bool together = Cut::overflows && !Single::src2 && !Transposed12::src2;
+  constexpr bool together = (Cut::overflows && !Single::src2 && !Transposed12::src2) || Cut::quickTogether;
   constexpr int64_t step = Cut::objectsAtOnce;
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
   const auto firstOf = [&](int64_t k) __attribute__((always_inline)) {
@@ -428,7 +430,7 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
     const auto group = groupOf<Cut>(src2, k, Single::src2 ? 1 : count);
     if constexpr (Transposed12::src2)
       return loadColumns<T, N, packed, Cut>(group, stride1);
-    else if constexpr (together)
+    else if constexpr (together && !Single::src2)
       return RowsInMemory<T, N, packed, Cut>{group, stride1};
     else
       return loadRows<T, N, packed, Cut>(group, stride1);
