@@ -146,6 +146,20 @@ template <class T> ZELM_INLINE void transposeBlock(SquareBlock<T, 4>& b) {
   b.row[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
 }
 
+#ifdef __AVX2__
+ZELM_INLINE void transposeBlock(SquareBlock<double, 4>& b) {
+  // Even rows and odd rows within their halves, then the halves.
+  const auto a0 = __builtin_shufflevector(b.row[0], b.row[1], 0, 4, 2, 6);
+  const auto a1 = __builtin_shufflevector(b.row[0], b.row[1], 1, 5, 3, 7);
+  const auto a2 = __builtin_shufflevector(b.row[2], b.row[3], 0, 4, 2, 6);
+  const auto a3 = __builtin_shufflevector(b.row[2], b.row[3], 1, 5, 3, 7);
+  b.row[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
+  b.row[1] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
+  b.row[2] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
+  b.row[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+}
+#endif
+
 // The W by W block of a view at (i, j), one row of it a vector, and its transposition into that form.
 template <int W, class View> ZELM_INLINE auto loadBlock(const View& x, int64_t i, int64_t j) {
   using T = typename View::Element;
@@ -154,7 +168,7 @@ template <int W, class View> ZELM_INLINE auto loadBlock(const View& x, int64_t i
   for (int r = 0; r < W; ++r)
     block.row[r] = loadLanes<T, W>(View::unitRows ? x.address(i + r, j) : x.address(i, j + r));
   if constexpr (!View::unitRows)
-    transposeBlock<T>(block);
+    transposeBlock(block);
   return block;
 }
 
@@ -240,6 +254,18 @@ template <int N, class T, class Op> ZELM_INLINE void combineWhole(Op op, char* d
     if constexpr (W == 8) {
       const auto v = loadLanes<T>(a);
       storeLanes(dst, op(__builtin_shufflevector(v, v, 0, 3, 6, 1, 4, 7, 2, 5), loadLanes<T>(b)));
+    } else if constexpr (W == 4 && sizeof(T) == 8) {
+      // Wide vectors from pairs: few shuffles go from half to half.
+      const auto pair = [a](int i, int j) __attribute__((always_inline)) {
+        return Lanes<T, 2>{loadElement<T>(a + i * E), loadElement<T>(a + j * E)};
+      };
+      const auto quad = [](const Lanes<T, 2>& low, const Lanes<T, 2>& high) __attribute__((always_inline)) {
+        return __builtin_shufflevector(low, high, 0, 1, 2, 3);
+      };
+      const auto first = op(quad(pair(0, 3), pair(6, 1)), loadLanes<T>(b));
+      const auto second = op(quad(pair(4, 7), pair(2, 5)), loadLanes<T>(b + 4 * E));
+      storeLanes(dst, first);
+      storeLanes(dst + 4 * E, second);
     } else if constexpr (W == 4) {
       const auto v0123 = loadLanes<T>(a);
       const auto v3456 = loadLanes<T>(a + 3 * E);
