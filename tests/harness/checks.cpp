@@ -155,7 +155,24 @@ void results(const Member& m) {
       spec.dataKind = dataKind(m, rng);
       cases.add(spec);
     }
-  for (int source : inPlaceSources(m))
+  // In place: each way on which vectors may go over an object or a whole array, at any address; then any mixture.
+  for (int source : inPlaceSources(m)) {
+    auto addInPlace = [&](const Sizes& sizes, int32_t batch, Spread spread, int offset) {
+      CaseSpec spec;
+      spec.sizes = withCount(m, sizes, batch);
+      spec.plans = {planOf(spread, offset != 0, offset)};
+      spec.inPlace = source;
+      spec.dataKind = m.family->dataKinds[0];
+      cases.add(spec);
+    };
+    for (Spread spread : {Spread::Packed, Spread::PaddedRows}) {
+      for (const Sizes& sizes : shapes)
+        for (int offset : {-1, m.elem})
+          addInPlace(sizes, 3, spread, offset);
+      for (int n : {3, 4, 5, 6})
+        for (int offset : {-1, 0, 16 - m.elem})
+          addInPlace(m.square(n, 1), 19, spread, offset);
+    }
     for (const Sizes& sizes : shapes)
       for (int i = 0; i < 6; ++i) {
         std::vector<Plan> plans;
@@ -163,6 +180,7 @@ void results(const Member& m) {
           plans.push_back(randomPlan(m, rng, i < 3));
         add(sizes, plans, source);
       }
+  }
   cases.run();
 }
 
