@@ -351,60 +351,305 @@ ZELM_INLINE int64_t multiplyStraight(const A& stored, const B& src2, const C& sr
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Packed objects of side 4. A vector of four fits lanes as it lies, one object a vector or two, so nothing is
-// transposed but the sums themselves.
+// A single matrix and packed vectors: a lane is an element of a result. The matrix is held as columns, and what the
+// terms take of a vector is spread over the lanes, so that nothing is transposed.
 
-// Element j of each group of four lanes, in all lanes of the group.
-template <int j> ZELM_INLINE Lanes<float> spread(const char* vectors) {
-  const auto x = loadLanes<float>(vectors);
-  return pick<j, j, j, j>(x, x);
-}
-template <int j, class T> ZELM_INLINE Lanes<T> spreadOf(const char* vectors) {
-  if constexpr (sizeof(T) == 4)
-    return spread<j>(vectors);
-  else
-    return splat<Lanes<T>>(loadElement<T>(vectors + j * sizeof(T)));
+constexpr int smaller(int a, int b) {
+  return a < b ? a : b;
 }
 
-template <class T> constexpr bool fillsVectors = laneCount<T> >= 4;
+// lane w: element(w)
+template <class L, class F> ZELM_INLINE L lanesOf(const F& element) {
+  if constexpr (LaneTraits<L>::width == 1) {
+    return element(0);
+  } else {
+    L lanes;
+    ZELM_UNROLL
+    for (int w = 0; w < LaneTraits<L>::width; ++w)
+      lanes[w] = element(w);
+    return lanes;
+  }
+}
 
-// The single operand's vector of four, once for each group of lanes.
-template <class T, class View> ZELM_INLINE Lanes<T> repeatFour(const View& element) {
-  Lanes<T> lanes;
-  ZELM_UNROLL
-  for (int w = 0; w < laneCount<T>; ++w)
-    lanes[w] = element(w % 4);
+// Element (i, j) of the matrix that multiplies, which is stored as it is or transposed.
+template <bool transposed, class View> ZELM_INLINE auto factor(const View& matrix, int i, int j) {
+  return transposed ? matrix.load(j, i) : matrix.load(i, j);
+}
+
+// Element j of N in all lanes.
+#ifdef __AVX2__
+template <class L, int N, int j> ZELM_INLINE L spread(const char* vector) {
+  using T = ElementOf<L>;
+  L lanes = splat<L>(loadElement<T>(vector + j * static_cast<int>(sizeof(T))));
+  // The compiler does not see where this comes from: for the narrower vectors that take their lanes from here it would
+  // load the element once more, or in place of the vector.
+  asm("" : "+x"(lanes));
   return lanes;
 }
+#else
+template <class L, int N, int j> ZELM_INLINE L spread(const char* vector) {
+  using T = ElementOf<L>;
+  constexpr int Q = chunkElements<T>;
+  constexpr int from = smaller(j / Q * Q, N - Q);
+  constexpr int lane = j - from;
+  // The shuffle of integers needs no copy of its operand.
+  const auto chunk = _mm_loadu_si128(reinterpret_cast<const __m128i*>(vector + from * static_cast<int>(sizeof(T))));
+  constexpr int order = sizeof(T) == 4 ? lane * 0x55 : lane == 0 ? 0x44 : 0xee;
+  return reinterpret_cast<L>(_mm_shuffle_epi32(chunk, order));
+}
+#endif
 
-// A single matrix held as columns: a lane is a result element.
-template <class Tree, bool transposed, class A, class T, class C>
-ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T, 4>& src2, const C& src3,
-                                    const PackedObjects<T, 4>& dst, int64_t end) {
-  using L = Lanes<T>;
-  constexpr int64_t width = laneCount<T> / 4;
-  const auto matrix = stored.object(0, 4);
-  L column[4];
-  ZELM_UNROLL
-  for (int j = 0; j < 4; ++j)
-    column[j] = repeatFour<T>([&](int i) { return transposed ? matrix.load(j, i) : matrix.load(i, j); });
-  L held{};
+// The first lanes.
+template <class L, class V> ZELM_INLINE L narrow(const V& v) {
+  if constexpr (std::is_same_v<L, V>)
+    return v;
+  else if constexpr (LaneTraits<L>::width == 1)
+    return v[0];
+  else
+    return __builtin_shufflevector(v, v, 0, 1);
+}
+
+// The low half of four floats as one element.
+ZELM_INLINE double lowPair(const Lanes<float, 4>& v) {
+  return _mm_cvtsd_f64(_mm_castps_pd(v));
+}
+ZELM_INLINE Lanes<float, 4> loadPair(const char* address) {
+  return _mm_castpd_ps(_mm_set_sd(loadElement<double>(address)));
+}
+
+// The addend of the elements at `offset` bytes into the packed result, or of a single vector what `held` has of it.
+template <bool half = false, class C, class L>
+ZELM_INLINE L addTo(const L& sum, const C& src3, int64_t offset, const L& held) {
+  if constexpr (!isAddend<C>)
+    return sum;
+  else if constexpr (!C::isArray)
+    return sum + held;
+  else if constexpr (half)
+    return sum + loadPair(src3.first + offset);
+  else if constexpr (LaneTraits<L>::width == 1)
+    return sum + loadElement<L>(src3.first + offset);
+  else
+    return sum + loadLanes<ElementOf<L>, LaneTraits<L>::width>(src3.first + offset);
+}
+template <class L, class C, class F> ZELM_INLINE L holdAddend(const C& src3, const F& elementOfLane) {
   if constexpr (isAddend<C> && !C::isArray)
-    held = repeatFour<T>([&](int i) { return src3.object(0).load(i); });
+    return lanesOf<L>([&](int w) { return src3.object(0).load(elementOfLane(w)); });
+  else
+    return L{};
+}
+
+// Three elements: W vectors lie in three vectors v of W lanes. Term j of lane w takes element j of vector
+// (v * W + w) / 3, which is lane of(w) of what lies `at` + j elements behind the first; lanes from W on are those of
+// the W elements behind.
+template <int W, int v> struct Window {
+  static constexpr int at = smaller(v * W / 3 * 3, 2 * W - 2);
+  static constexpr int of(int w) { return (v * W + w) / 3 * 3 - at; }
+  static constexpr bool isBehind(int lane) {
+    for (int w = 0; w < W; ++w)
+      if (of(w) == lane + W)
+        return true;
+    return false;
+  }
+  static constexpr bool reachesBehind = of(W - 1) >= W;
+};
+template <class T, int v, int... w>
+ZELM_INLINE Lanes<T> spreadTriples(const char* x, std::integer_sequence<int, w...>) {
+  constexpr int W = laneCount<T>;
+  using Of = Window<W, v>;
+  auto lanes = loadLanes<T>(x + Of::at * static_cast<int>(sizeof(T)));
+  if constexpr (Of::reachesBehind) {
+    const auto behind = loadLanes<T>(x + (Of::at + W) * static_cast<int>(sizeof(T)));
+    lanes = __builtin_shufflevector(lanes, behind, (Of::isBehind(w) ? w + W : w)...);
+  }
+  return __builtin_shufflevector(lanes, lanes, (Of::of(w) % W)...);
+}
+
+template <class Tree, class T> struct TripleVectors {
+  Lanes<T> column[3][3]; // of vector v
+  Lanes<T> held[3];
+
+  template <int v, class C> ZELM_INLINE void multiply(const char* x, const C& src3, char* dst, int64_t offset) const {
+    const std::make_integer_sequence<int, laneCount<T>> lanes;
+    Lanes<T> term[3];
+    ZELM_UNROLL
+    for (int j = 0; j < 3; ++j)
+      term[j] = column[v][j] * spreadTriples<T, v>(x + offset + j * static_cast<int>(sizeof(T)), lanes);
+    const int64_t at = offset + v * vectorBytes;
+    storeLanes(dst + at, addTo(Tree::of(0, term), src3, at, held[v]));
+  }
+};
+template <class Tree, bool transposed, class A, class T, class C>
+ZELM_INLINE int64_t multiplyTriples(const A& stored, const PackedObjects<const T, 3>& src2, const C& src3,
+                                    const PackedObjects<T, 3>& dst, int64_t end) {
+  constexpr int W = laneCount<T>;
+  const auto matrix = stored.object(0, 3);
+  TripleVectors<Tree, T> by;
+  ZELM_UNROLL
+  for (int v = 0; v < 3; ++v) {
+    const auto element = [v](int w) { return (v * W + w) % 3; };
+    ZELM_UNROLL
+    for (int j = 0; j < 3; ++j)
+      by.column[v][j] = lanesOf<Lanes<T>>([&](int w) { return factor<transposed>(matrix, element(w), j); });
+    by.held[v] = holdAddend<Lanes<T>>(src3, element);
+  }
   int64_t k = 0;
-  for (; k + width <= end; k += width) {
-    const char* const x = src2.address(k);
-    const L term[4] = {column[0] * spreadOf<0, T>(x), column[1] * spreadOf<1, T>(x), column[2] * spreadOf<2, T>(x),
-                       column[3] * spreadOf<3, T>(x)};
-    L sum = Tree::of(0, term);
-    if constexpr (isAddend<C> && C::isArray)
-      sum = sum + loadLanes<T>(src3.address(k));
-    else if constexpr (isAddend<C>)
-      sum = sum + held;
-    storeLanes(dst.address(k), sum);
+  for (; k + W <= end; k += W) {
+    const int64_t offset = k * dst.bytes;
+    by.template multiply<0>(src2.first, src3, dst.first, offset);
+    by.template multiply<1>(src2.first, src3, dst.first, offset);
+    by.template multiply<2>(src2.first, src3, dst.first, offset);
   }
   return k;
 }
+
+// Four elements, of which a sum adds pairs at a distance of `inner` and then the two sums: a lane may take its terms in
+// any order that keeps the pairs. Lane w first takes element w, then the one `inner` off; the other pair is summed in
+// the lane that has its elements, `outer` off.
+template <class Tree> struct Crosswise { static constexpr int inner = 0; };
+template <> struct Crosswise<EvenOdd> {
+  static constexpr int inner = 2;
+  static constexpr int outer = 1;
+};
+template <> struct Crosswise<Pairs32> {
+  static constexpr int inner = 1;
+  static constexpr int outer = 2;
+};
+template <int distance, class L, int... w> ZELM_INLINE L crossed(const L& lanes, std::integer_sequence<int, w...>) {
+  return __builtin_shufflevector(lanes, lanes, (w ^ distance)...);
+}
+template <class Tree, bool transposed, class A, class T, class C>
+ZELM_INLINE int64_t multiplyFours(const A& stored, const PackedObjects<const T, 4>& src2, const C& src3,
+                                  const PackedObjects<T, 4>& dst, int64_t end) {
+  using L = Lanes<T>;
+  constexpr int inner = Crosswise<Tree>::inner;
+  constexpr int outer = Crosswise<Tree>::outer;
+  const std::make_integer_sequence<int, laneCount<T>> lanes;
+  const auto matrix = stored.object(0, 4);
+  // What lane w multiplies for the element `row` off with its own element and the one `inner` off.
+  const auto hold = [&](int row, int column) {
+    return lanesOf<L>([&](int w) { return factor<transposed>(matrix, (w ^ row) % 4, (w ^ column) % 4); });
+  };
+  const L own = hold(0, 0);
+  const L paired = hold(0, inner);
+  const L othersOwn = hold(outer, 0);
+  const L othersPaired = hold(outer, inner);
+  const L held = holdAddend<L>(src3, [](int w) { return w % 4; });
+  int64_t k = 0;
+  constexpr int64_t width = laneCount<T> / 4;
+  const auto multiplyAt = [&](int64_t offset) {
+    const L x = loadLanes<T>(src2.first + offset);
+    const L y = crossed<inner>(x, lanes);
+    const L sum = (own * x + paired * y) + crossed<outer>(othersOwn * x + othersPaired * y, lanes);
+    storeLanes(dst.first + offset, addTo(sum, src3, offset, held));
+  };
+  for (; k + 2 * width <= end; k += 2 * width) {
+    multiplyAt(k * dst.bytes);
+    multiplyAt((k + width) * dst.bytes);
+  }
+  for (; k + width <= end; k += width)
+    multiplyAt(k * dst.bytes);
+  return k;
+}
+
+// Other sizes: the rows of the matrix from `from` on, as many as fit a vector, then the rest.
+template <class T, int W> struct LanesOrElement { using type = Lanes<T, W>; };
+template <class T> struct LanesOrElement<T, 1> { using type = T; };
+
+// The row that is the sum of the others with terms 1 and 2 exchanged.
+template <class Tree, int N> constexpr int exchangingRow = -1;
+template <> inline constexpr int exchangingRow<EvenOdd, 5> = 4;
+
+template <class Tree, class T, int N, int from = 0> struct Columns {
+  static constexpr int rows = N - from;
+  static constexpr int W = rows == 1 ? 1 : rows > chunkElements<T> ? laneCount<T> : chunkElements<T>;
+  static constexpr int used = smaller(rows, W);
+  // Half of a vector of four is stored alone. What a wider vector has too much goes into the next object, which is done
+  // after.
+  static constexpr bool half = used < W && W == chunkElements<T>;
+  using L = typename LanesOrElement<T, W>::type;
+  using Rest = std::conditional_t<(from + W < N), Columns<Tree, T, N, from + W>, NoAddend>;
+
+  L column[N];
+  L held;
+  Rest rest;
+
+  // Lanes that are not used have the values of the last row.
+  static constexpr int rowOf(int w) { return from + smaller(w, used - 1); }
+  static constexpr bool exchanges(int w) { return w > 0 && rowOf(w) == exchangingRow<Tree, N>; }
+  static constexpr bool hasExchange = exchanges(used - 1);
+  // The term that lane w adds in the place of term j of lane 0.
+  static constexpr int termOf(int j, int w) { return exchanges(w) && (j == 1 || j == 2) ? 3 - j : j; }
+
+  template <bool transposed, class View, class C> ZELM_INLINE void hold(const View& matrix, const C& src3) {
+    ZELM_UNROLL
+    for (int j = 0; j < N; ++j)
+      column[j] = lanesOf<L>([&](int w) { return factor<transposed>(matrix, rowOf(w), termOf(j, w)); });
+    held = holdAddend<L>(src3, rowOf);
+    if constexpr (from + W < N)
+      rest.template hold<transposed>(matrix, src3);
+  }
+
+  template <int... w> ZELM_INLINE static L exchange(const L& one, const L& other, std::integer_sequence<int, w...>) {
+    return __builtin_shufflevector(one, other, (exchanges(w) ? w + W : w)...);
+  }
+
+  template <int... j>
+  ZELM_INLINE static void spreadAll(const char* x, L (&lanes)[N], std::integer_sequence<int, j...>) {
+    ((lanes[j] = spread<L, N, j>(x)), ...);
+  }
+
+  // The object at `offset` bytes. The rest multiplies what is spread already; everything is loaded before anything is
+  // stored.
+  template <class X, class C>
+  ZELM_INLINE void multiplySpread(const X (&x)[N], const C& src3, char* dst, int64_t offset) const {
+    L term[N];
+    ZELM_UNROLL
+    for (int j = 0; j < N; ++j)
+      term[j] = column[j] * narrow<L>(x[j]);
+    const int64_t at = offset + from * static_cast<int>(sizeof(T));
+    const L sum = addTo<half>(Tree::of(from, term), src3, at, held);
+    if constexpr (from + W < N)
+      rest.multiplySpread(x, src3, dst, offset);
+    if constexpr (half)
+      storeElement(dst + at, lowPair(sum));
+    else if constexpr (W == 1)
+      storeElement(dst + at, sum);
+    else
+      storeLanes(dst + at, sum);
+  }
+  template <class C> ZELM_INLINE void multiply(const char* src2, const C& src3, char* dst, int64_t offset) const {
+    L x[N];
+    spreadAll(src2 + offset, x, std::make_integer_sequence<int, N>{});
+    if constexpr (hasExchange) {
+      const std::make_integer_sequence<int, W> lanes;
+      const L second = exchange(x[1], x[2], lanes);
+      x[2] = exchange(x[2], x[1], lanes);
+      x[1] = second;
+    }
+    multiplySpread(x, src3, dst, offset);
+  }
+};
+
+template <class Tree, int N, bool transposed, class A, class T, class C>
+ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T, N>& src2, const C& src3,
+                                    const PackedObjects<T, N>& dst, int64_t count) {
+  // What an object loads and stores too much is the next one's.
+  const int64_t end = N < laneCount<T> ? count - 1 : count;
+  Columns<Tree, T, N> columns;
+  columns.template hold<transposed>(stored.object(0, N), src3);
+  int64_t k = 0;
+  constexpr int64_t step = N <= laneCount<T> ? 2 : 1;
+  for (; k + step <= end; k += step) {
+    ZELM_UNROLL
+    for (int o = 0; o < step; ++o)
+      columns.multiply(src2.first, src3, dst.first, (k + o) * dst.bytes);
+  }
+  return k;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Matrices that differ, side 4. A vector of four fits lanes as it lies, one object a vector or two, so nothing is
+// transposed but the sums themselves.
 
 // The sums of four rows whose products lie along the lanes. Each step adds the pairs that the tree adds, and halves
 // what is left.
@@ -549,11 +794,16 @@ template <int Elements, class Operand> ZELM_INLINE auto asPacked(const Operand& 
   }
 }
 
+// On its own and with copies of the operands: registers for all that a batch holds, which no store can change.
 template <class Tree, int N, bool transposed, class A, class B, class C, class D>
-ZELM_INLINE int64_t multiplyPacked(const A& stored, const B& src2, const C& src3, const D& dst, int64_t count) {
+__attribute__((noinline)) int64_t multiplyPacked(A stored, B src2, C src3, D dst, int64_t count) {
   using T = typename D::Element;
-  if constexpr (N == 4 && !A::isArray && fillsVectors<T>)
-    return multiplyColumns<Tree, transposed>(stored, src2, src3, dst, count);
+  if constexpr (!A::isArray && N == 3 && laneCount<T> >= 4)
+    return multiplyTriples<Tree, transposed>(stored, src2, src3, dst, count);
+  else if constexpr (!A::isArray && N == 4 && Crosswise<Tree>::inner != 0)
+    return multiplyFours<Tree, transposed>(stored, src2, src3, dst, count);
+  else if constexpr (!A::isArray && N >= 4)
+    return multiplyColumns<Tree, N, transposed>(stored, src2, src3, dst, count);
   else if constexpr (N == 4 && A::isArray && !transposed && sumsAlongRows<Tree, T>)
     return multiplyRows(stored, src2, dst, count);
   else
