@@ -254,6 +254,13 @@ template <int N, class View> ZELM_INLINE auto loadVectorTile(const View& x) {
     tile(0, j) = x.load(j);
   return tile;
 }
+template <int N, class T> ZELM_INLINE auto loadElements(const char* x) {
+  Tile<T, 1, N> tile;
+  ZELM_UNROLL
+  for (int j = 0; j < N; ++j)
+    tile(0, j) = loadElement<T>(x + j * static_cast<int64_t>(sizeof(T)));
+  return tile;
+}
 template <int N, class View>
 ZELM_INLINE void storeVectorTile(const View& x, const Tile<typename View::Element, 1, N>& tile) {
   ZELM_UNROLL
@@ -648,100 +655,183 @@ ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Matrices that differ, side 4. A vector of four fits lanes as it lies, one object a vector or two, so nothing is
-// transposed but the sums themselves.
+// Packed matrices whose rows go in lanes, as vectors by themselves: the result's elements lie as the rows do
 
-// The sums of four rows whose products lie along the lanes. Each step adds the pairs that the tree adds, and halves
-// what is left.
-template <class Tree, class T> constexpr bool sumsAlongRows = false;
-template <> inline constexpr bool sumsAlongRows<EvenOdd, float> = true;
-template <> inline constexpr bool sumsAlongRows<Pairs64, double> = true;
+// What multiplies as many rows as a vector has lanes.
+template <class Tree, class T, int N> struct RowFactor {
+  using L = Lanes<T>;
+  static constexpr int W = laneCount<T>;
+  static constexpr auto E = static_cast<int64_t>(sizeof(T));
+  // Two rows of N elements are N vectors: multiplied as they lie, by the elements as they meet them, and turned after.
+  static constexpr bool asTheyLie = W == 2;
+  // Pairs64 adds the sum of the first four terms, which are a vector, to the rest.
+  static constexpr bool byFours = sizeof(T) == 8 && W == 4 && std::is_same_v<Tree, Pairs64> && N >= 4;
+
+  L x[N];
+
+  ZELM_INLINE explicit RowFactor(const Tile<T, 1, N>& vector) {
+    ZELM_UNROLL
+    for (int v = 0; v < N; ++v) {
+      const bool inOrder = asTheyLie || (byFours && v == 0);
+      const bool lastPair = byFours && N == 6 && v >= 4;
+      x[v] = lanesOf<L>([&](int w) { return vector(0, inOrder ? (v * W + w) % N : lastPair ? 4 + w % 2 : v); });
+    }
+  }
+
+  template <int j> ZELM_INLINE static L column(const L (&product)[N]) {
+    return __builtin_shufflevector(product[j / 2], product[(N + j) / 2], j % 2, 2 + (N + j) % 2);
+  }
+  template <int... j> ZELM_INLINE static L sumAsTheyLie(const L (&product)[N], std::integer_sequence<int, j...>) {
+    const L term[N] = {column<j>(product)...};
+    return Tree::of(0, term);
+  }
 
 #ifdef __AVX2__
-// Two objects: x and y are their vectors, each in both halves.
-ZELM_INLINE Lanes<float> evenAndOdd(const char* matrix, Lanes<float> x) {
-  const Lanes<float> p01 = loadLanes<float>(matrix) * x;
-  const Lanes<float> p23 = loadLanes<float>(matrix + 32) * x;
-  return pick<0, 1, 4, 5>(p01, p23) + pick<2, 3, 6, 7>(p01, p23); // rows 0 2 | 1 3: t0 + t2, t1 + t3 of each
+  ZELM_INLINE static Lanes<double> addPairs(Lanes<double> p, Lanes<double> q) {
+    return pick<0, 2>(p, q) + pick<1, 3>(p, q);
+  }
+  ZELM_INLINE Lanes<double> sumByFours(const char* rows) const {
+    const auto products = [&](int i) { return loadLanes<double>(rows + i * N * E) * x[0]; };
+    const auto s = addPairs(products(0), products(1)); // t0 + t1 of both rows | t2 + t3
+    const auto t = addPairs(products(2), products(3));
+    const auto sum = __builtin_shufflevector(s, t, 0, 1, 4, 5) + __builtin_shufflevector(s, t, 2, 3, 6, 7);
+    if constexpr (N == 4) {
+      return sum;
+    } else if constexpr (N == 5) {
+      // The fifth element of row i is in lane i of the vector 4 * i elements behind that of row 0.
+      const auto from = [&](int i) { return loadLanes<double>(rows + (4 + 4 * i) * E); };
+      const auto low = __builtin_shufflevector(from(0), from(1), 0, 5, 2, 3);
+      const auto high = __builtin_shufflevector(from(2), from(3), 0, 1, 2, 7);
+      return sum + __builtin_shufflevector(low, high, 0, 1, 6, 7) * x[4];
+    } else {
+      const auto lastPairs = [&](int i) {
+        return joinHalves(loadLanes<double, 2>(rows + (i * N + 4) * E),
+                          loadLanes<double, 2>(rows + ((i + 2) * N + 4) * E)) *
+               x[4];
+      };
+      return sum + addPairs(lastPairs(0), lastPairs(1));
+    }
+  }
+#endif
+
+  ZELM_INLINE L operator()(const char* rows) const {
+    if constexpr (asTheyLie) {
+      L product[N];
+      ZELM_UNROLL
+      for (int v = 0; v < N; ++v)
+        product[v] = loadLanes<T>(rows + v * vectorBytes) * x[v];
+      return sumAsTheyLie(product, std::make_integer_sequence<int, N>{});
+    } else if constexpr (byFours) {
+      return this->sumByFours(rows);
+    } else {
+      const auto lanes = loadPackedVectors(PackedObjects<const T, N>{rows}, 0);
+      L term[N];
+      ZELM_UNROLL
+      for (int j = 0; j < N; ++j)
+        term[j] = lanes(0, j) * x[j];
+      return Tree::of(0, term);
+    }
+  }
+};
+
+// A row alone.
+template <class Tree, class T, int N> ZELM_INLINE T multiplyRow(const char* elements, const Tile<T, 1, N>& x, int row) {
+  T term[N];
+  ZELM_UNROLL
+  for (int j = 0; j < N; ++j)
+    term[j] = loadElement<T>(elements + j * static_cast<int64_t>(sizeof(T))) * x(0, j);
+  return Tree::of(row, term);
 }
-ZELM_INLINE void sumRows(const char* matrices, const Lanes<float>& x, const Lanes<float>& y, char* dst) {
-  const auto s = evenAndOdd(matrices, x);
-  const auto t = evenAndOdd(matrices + 64, y);
-  const auto sums = pick<0, 2, 4, 6>(s, t) + pick<1, 3, 5, 7>(s, t); // rows 0 2 0 2 | 1 3 1 3
-  storeLanes(dst, __builtin_shufflevector(sums, sums, 0, 4, 1, 5, 2, 6, 3, 7));
+
+// One vector for all: rows follow each other through the whole batch.
+template <class Tree, int N, class T, class B>
+ZELM_INLINE int64_t multiplyRowsBySingle(const PackedObjects<const T, N * N>& stored, const B& src2,
+                                         const PackedObjects<T, N>& dst, int64_t count) {
+  constexpr int64_t W = laneCount<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  const auto vector = loadVectorTile<N>(src2.object(0));
+  const RowFactor<Tree, T, N> factor(vector);
+  const int64_t rows = count * N;
+  int64_t r = 0;
+  for (; r + 2 * W <= rows; r += 2 * W) {
+    storeLanes(dst.first + r * E, factor(stored.first + r * N * E));
+    storeLanes(dst.first + (r + W) * E, factor(stored.first + (r + W) * N * E));
+  }
+  for (; r < rows; ++r)
+    storeElement<T>(dst.first + r * E, multiplyRow<Tree>(stored.first + r * N * E, vector, 0));
+  return count;
 }
-ZELM_INLINE Lanes<double> adjacent(const char* rows, const Lanes<double>& x) {
-  const Lanes<double> p = loadLanes<double>(rows) * x;
-  const Lanes<double> q = loadLanes<double>(rows + 32) * x;
-  return pick<0, 2>(p, q) + pick<1, 3>(p, q); // t0 + t1 of both rows | t2 + t3
+
+// A vector for each matrix.
+template <class Tree, int N, class T>
+ZELM_INLINE int64_t multiplyRowsByArray(const PackedObjects<const T, N * N>& stored,
+                                        const PackedObjects<const T, N>& src2, const PackedObjects<T, N>& dst,
+                                        int64_t count) {
+  constexpr int W = laneCount<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  for (int64_t k = 0; k < count; ++k) {
+    const auto vector = loadElements<N, T>(src2.address(k));
+    const RowFactor<Tree, T, N> factor(vector);
+    const auto rowAt = [&](int i) { return stored.address(k) + i * N * E; };
+    ZELM_UNROLL
+    for (int i = 0; i + W <= N; i += W)
+      storeLanes(dst.address(k) + i * E, factor(rowAt(i)));
+    ZELM_UNROLL
+    for (int i = N / W * W; i < N; ++i)
+      storeElement<T>(dst.address(k) + i * E, multiplyRow<Tree>(rowAt(i), vector, i));
+  }
+  return count;
 }
-ZELM_INLINE void sumRows(const char* matrix, const Lanes<double>& x, char* dst) {
-  const auto s = adjacent(matrix, x);
-  const auto t = adjacent(matrix + 64, x);
-  storeLanes(dst, __builtin_shufflevector(s, t, 0, 1, 4, 5) + __builtin_shufflevector(s, t, 2, 3, 6, 7));
-}
-#else
-ZELM_INLINE Lanes<float> evenAndOdd(const char* rows, Lanes<float> x) {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Packed matrices of side 4 in 32f with the sum EvenOdd: a lane is a term. Each step adds the pairs that the sum adds,
+// and halves what is left.
+
+// t0 + t2 and t1 + t3 of a vector of rows and the one behind; 32-byte vectors hold rows 0 2 | 1 3.
+ZELM_INLINE Lanes<float> evenAndOdd(const char* rows, const Lanes<float>& x) {
   const Lanes<float> p = loadLanes<float>(rows) * x;
-  const Lanes<float> q = loadLanes<float>(rows + 16) * x;
-  return pick<0, 1, 4, 5>(p, q) + pick<2, 3, 6, 7>(p, q); // t0 + t2, t1 + t3 of each row
+  const Lanes<float> q = loadLanes<float>(rows + vectorBytes) * x;
+  return pick<0, 1, 4, 5>(p, q) + pick<2, 3, 6, 7>(p, q);
 }
-ZELM_INLINE void sumRows(const char* matrix, const Lanes<float>& x, char* dst) {
-  const auto s = evenAndOdd(matrix, x);
-  const auto t = evenAndOdd(matrix + 32, x);
-  storeLanes(dst, pick<0, 2, 4, 6>(s, t) + pick<1, 3, 5, 7>(s, t));
+ZELM_INLINE Lanes<float> addOdd(const Lanes<float>& s, const Lanes<float>& t) {
+  return pick<0, 2, 4, 6>(s, t) + pick<1, 3, 5, 7>(s, t);
 }
-// Two rows, half of their terms.
-ZELM_INLINE Lanes<double> adjacent(const char* rows, const Lanes<double>& x) {
-  const Lanes<double> p = loadLanes<double>(rows) * x;
-  const Lanes<double> q = loadLanes<double>(rows + 32) * x;
-  return pick<0, 2>(p, q) + pick<1, 3>(p, q);
-}
-ZELM_INLINE void sumRows(const char* matrix, const Lanes<double>& x, const Lanes<double>& y, char* dst) {
-  storeLanes(dst, adjacent(matrix, x) + adjacent(matrix + 16, y));
-  storeLanes(dst + 16, adjacent(matrix + 64, x) + adjacent(matrix + 80, y));
-}
-#endif
-
-// Array operands give a vector object by object, single ones the same each time.
-template <class B> ZELM_INLINE const char* vectorOf(const B& src2, int64_t k, const char* held) {
-  if constexpr (B::isArray)
-    return src2.address(k);
-  else
-    return held;
-}
-
-// Matrices that differ: a lane is a term. Sums Tree::of, whatever the tree.
-template <class T, class B>
-ZELM_INLINE int64_t multiplyRows(const PackedObjects<const T, 16>& stored, const B& src2,
-                                 const PackedObjects<T, 4>& dst, int64_t end) {
-  T single[4] = {};
-  if constexpr (!B::isArray)
-    for (int j = 0; j < 4; ++j)
-      single[j] = src2.object(0).load(j);
-  const auto* const held = reinterpret_cast<const char*>(single);
-  int64_t k = 0;
 #ifdef __AVX2__
-  if constexpr (sizeof(T) == 4) {
-    const auto twice = [](const char* x) {
-      const auto half = loadLanes<T, 4>(x);
-      return joinHalves(half, half);
-    };
-    for (; k + 2 <= end; k += 2)
-      sumRows(stored.address(k), twice(vectorOf(src2, k, held)), twice(vectorOf(src2, k + 1, held)), dst.address(k));
-  } else {
-    for (; k < end; ++k)
-      sumRows(stored.address(k), loadLanes<T>(vectorOf(src2, k, held)), dst.address(k));
-  }
+// Two objects.
+constexpr int foursAtOnce = 2;
+ZELM_INLINE Lanes<float> loadFour(const char* x) {
+  const auto half = loadLanes<float, 4>(x);
+  return joinHalves(half, half);
+}
+ZELM_INLINE Lanes<float> sumFours(const char* matrices, const Lanes<float>& x, const Lanes<float>& y) {
+  const auto sums = addOdd(evenAndOdd(matrices, x), evenAndOdd(matrices + 64, y)); // rows 0 2 0 2 | 1 3 1 3
+  return __builtin_shufflevector(sums, sums, 0, 4, 1, 5, 2, 6, 3, 7);
+}
 #else
-  for (; k < end; ++k) {
-    const char* const x = vectorOf(src2, k, held);
-    if constexpr (sizeof(T) == 4)
-      sumRows(stored.address(k), loadLanes<T>(x), dst.address(k));
-    else
-      sumRows(stored.address(k), loadLanes<T>(x), loadLanes<T>(x + 16), dst.address(k));
-  }
+constexpr int foursAtOnce = 1;
+ZELM_INLINE Lanes<float> loadFour(const char* x) {
+  return loadLanes<float>(x);
+}
+ZELM_INLINE Lanes<float> sumFours(const char* matrix, const Lanes<float>& x, const Lanes<float>&) {
+  return addOdd(evenAndOdd(matrix, x), evenAndOdd(matrix + 32, x));
+}
 #endif
+
+template <class B>
+ZELM_INLINE int64_t multiplyFourTerms(const PackedObjects<const float, 16>& stored, const B& src2,
+                                      const PackedObjects<float, 4>& dst, int64_t end) {
+  Lanes<float> held{};
+  if constexpr (!B::isArray)
+    held = lanesOf<Lanes<float>>([&](int w) { return src2.object(0).load(w % 4); });
+  const auto vector = [&](int64_t k) {
+    if constexpr (B::isArray)
+      return loadFour(src2.address(k));
+    else
+      return held;
+  };
+  int64_t k = 0;
+  for (; k + foursAtOnce <= end; k += foursAtOnce)
+    storeLanes(dst.address(k), sumFours(stored.address(k), vector(k), vector(k + foursAtOnce - 1)));
   return k;
 }
 
@@ -804,8 +894,12 @@ __attribute__((noinline)) int64_t multiplyPacked(A stored, B src2, C src3, D dst
     return multiplyFours<Tree, transposed>(stored, src2, src3, dst, count);
   else if constexpr (!A::isArray && N >= 4)
     return multiplyColumns<Tree, N, transposed>(stored, src2, src3, dst, count);
-  else if constexpr (N == 4 && A::isArray && !transposed && sumsAlongRows<Tree, T>)
-    return multiplyRows(stored, src2, dst, count);
+  else if constexpr (A::isArray && !transposed && N == 4 && std::is_same_v<Tree, EvenOdd>)
+    return multiplyFourTerms(stored, src2, dst, count);
+  else if constexpr (A::isArray && !transposed && !B::isArray && exchangingRow<Tree, N> < 0)
+    return multiplyRowsBySingle<Tree, N>(stored, src2, dst, count);
+  else if constexpr (A::isArray && !transposed && B::isArray && sizeof(T) == 8 && N >= laneCount<T>)
+    return multiplyRowsByArray<Tree, N>(stored, src2, dst, count);
   else
     return multiplyStraight<Tree, Lanes<T>, Lie::Packed, N, transposed>(stored, src2, src3, dst, 0, count);
 }
