@@ -185,6 +185,7 @@ ZELM_INLINE void loadRun(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T
       const int from = e + Q <= N ? e : N - Q;
       Lanes<T> chunk[Q];
       loadChunk<T>(x, offset + from * E, chunk);
+      ZELM_UNROLL
       for (int q = e - from; q < Q; ++q)
         lanes[from + q] = chunk[q];
     }
