@@ -19,8 +19,7 @@ template <> struct LaneInteger<float> { using type = int32_t; };
 template <> struct LaneInteger<double> { using type = int32_t; };
 template <class L> using IntegerOf = typename LaneInteger<L>::type;
 
-// `choose` is what a comparison gives. For wide lanes g++ would compare it with zero once more for a ?: of its own; for
-// narrow ones what it makes of a ?: is faster than the bit operations written out.
+// `choose` is what a comparison gives. Without blend instructions this is three operations.
 template <class L> ZELM_INLINE L select(IntegerOf<L> choose, L yes, L no) {
 #ifdef __AVX2__
   if constexpr (sizeof(ElementOf<L>) == 4)
@@ -29,6 +28,54 @@ template <class L> ZELM_INLINE L select(IntegerOf<L> choose, L yes, L no) {
     return _mm256_blendv_pd(no, yes, reinterpret_cast<__m256d>(choose));
 #else
   return choose ? yes : no;
+#endif
+}
+
+// The lanes of a that are not lanes of b. g++ would take a & ~b of comparisons apart into single lanes.
+template <class I> ZELM_INLINE I without(const I& a, const I& b) {
+#ifdef __AVX2__
+  return reinterpret_cast<I>(_mm256_andnot_si256(reinterpret_cast<__m256i>(b), reinterpret_cast<__m256i>(a)));
+#else
+  return reinterpret_cast<I>(_mm_andnot_si128(reinterpret_cast<__m128i>(b), reinterpret_cast<__m128i>(a)));
+#endif
+}
+
+// a > b ? a : b
+#ifdef __AVX2__
+ZELM_INLINE Lanes<float> larger(Lanes<float> a, Lanes<float> b) {
+  return _mm256_max_ps(a, b);
+}
+ZELM_INLINE Lanes<double> larger(Lanes<double> a, Lanes<double> b) {
+  return _mm256_max_pd(a, b);
+}
+#else
+ZELM_INLINE Lanes<float> larger(Lanes<float> a, Lanes<float> b) {
+  return _mm_max_ps(a, b);
+}
+ZELM_INLINE Lanes<double> larger(Lanes<double> a, Lanes<double> b) {
+  return _mm_max_pd(a, b);
+}
+#endif
+
+// Exchanges x[k] with x[i] in the lanes of with[i], for all i behind k. No lane is in two of them.
+template <class K, class L, int N> ZELM_INLINE void exchange(K k, const IntegerOf<L> (&with)[N], L (&x)[N]) {
+#ifdef __AVX2__
+  const L old = x[k];
+  ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY {
+    x[k] = select<L>(with[i], x[i], x[k]);
+    x[i] = select<L>(with[i], old, x[i]);
+  });
+#else
+  // A choice would be three operations, so it is the bits in which the two differ that change places.
+  const auto bits = [](auto v) ZELM_BODY { return reinterpret_cast<__m128>(v); };
+  const __m128 old = bits(x[k]);
+  __m128 changes{};
+  ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY {
+    const __m128 change = _mm_and_ps(bits(with[i]), _mm_xor_ps(old, bits(x[i])));
+    x[i] = reinterpret_cast<L>(_mm_xor_ps(bits(x[i]), change));
+    changes = _mm_or_ps(changes, change);
+  });
+  x[k] = reinterpret_cast<L>(_mm_xor_ps(old, changes));
 #endif
 }
 
@@ -43,6 +90,57 @@ template <class L> ZELM_INLINE L magnitude(L x) {
   using T = ElementOf<L>;
   return reinterpret_cast<L>(reinterpret_cast<IntegerOf<L>>(x) & ~reinterpret_cast<IntegerOf<L>>(splat<L>(T(-0.0))));
 }
+
+// Pairs (a, b), a < b: exchanged one after the other wherever key a is greater than key b, they sort any N keys.
+template <int N> struct SortingNetwork;
+template <> struct SortingNetwork<3> { static constexpr int pair[][2] = {{0, 2}, {0, 1}, {1, 2}}; };
+template <> struct SortingNetwork<4> { static constexpr int pair[][2] = {{0, 2}, {1, 3}, {0, 1}, {2, 3}, {1, 2}}; };
+template <> struct SortingNetwork<5> {
+  static constexpr int pair[][2] = {{0, 3}, {1, 4}, {0, 2}, {1, 3}, {0, 1}, {2, 4}, {1, 2}, {3, 4}, {2, 3}};
+};
+template <> struct SortingNetwork<6> {
+  static constexpr int pair[][2] = {{0, 5}, {1, 3}, {2, 4}, {1, 2}, {3, 4}, {0, 3},
+                                    {2, 5}, {0, 1}, {2, 3}, {4, 5}, {1, 2}, {3, 4}};
+};
+
+// Puts rows into an order of their own in every lane: row i is to be the one that was row p[i]. The exchanges that
+// would sort p, in reverse.
+template <class L, int N> class RowOrder {
+  using I = IntegerOf<L>;
+
+public:
+  ZELM_INLINE explicit RowOrder(const I (&p)[N]) {
+    L key[N];
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { key[i] = reinterpret_cast<L>(p[i]); });
+    ascending(Fixed<0>{}, Fixed<steps>{}, [&](auto s) ZELM_BODY {
+      where_[s] = reinterpret_cast<I>(key[Network::pair[s][0]]) > reinterpret_cast<I>(key[Network::pair[s][1]]);
+      exchange(s, key);
+    });
+    I wrong{};
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { wrong |= reinterpret_cast<I>(key[i]) != i.value; });
+    isPermutation_ = !anyLane(wrong);
+  }
+  // Otherwise there is no such order: a row appears twice.
+  ZELM_INLINE bool isPermutation() const { return isPermutation_; }
+  ZELM_INLINE void put(L (&x)[N]) const {
+    descending(Fixed<0>{}, Fixed<steps>{}, [&](auto s) ZELM_BODY { exchange(s, x); });
+  }
+
+private:
+  using Network = SortingNetwork<N>;
+  static constexpr int steps = sizeof Network::pair / sizeof Network::pair[0];
+
+  template <class S> ZELM_INLINE void exchange(S s, L (&x)[N]) const {
+    L& a = x[Network::pair[s][0]];
+    L& b = x[Network::pair[s][1]];
+    const L old = a;
+    a = select<L>(where_[s], b, a);
+    b = select<L>(where_[s], old, b);
+  }
+
+  I where_[steps];
+  bool isPermutation_;
+};
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Objects whose rows lie together
@@ -77,6 +175,17 @@ template <class Operand> __attribute__((noinline)) auto vectorAddresses(const Op
   return addresses;
 }
 template <class T, class I> struct PlainAddresses { I* of[laneCount<T>]; };
+// Of a whole block, N elements an object.
+template <int N, class T, class I> struct PlainRun {
+  I* first;
+  ZELM_INLINE operator PlainAddresses<T, I>() const {
+    PlainAddresses<T, I> addresses;
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      addresses.of[w] = first + w * N;
+    return addresses;
+  }
+};
 template <class T, class I> __attribute__((noinline)) auto plainAddresses(const Plain<I>& x, int64_t k, int64_t count) {
   PlainAddresses<T, I> addresses;
   forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.pointer + object * x.each; });
@@ -135,11 +244,24 @@ template <int N, class Operand> ZELM_INLINE auto vectorPositions(const Operand& 
 
 template <class T> struct ObjectOffsets {
   std::intptr_t of[laneCount<T>];
-  ZELM_INLINE bool neighbours() const {
-    bool all = true;
-    for (int w = 1; w < laneCount<T>; ++w)
-      all &= of[w] - of[0] == w * static_cast<std::intptr_t>(sizeof(T));
-    return all;
+  ZELM_INLINE char* address(std::intptr_t position, int w) const { return reinterpret_cast<char*>(position + of[w]); }
+  ZELM_INLINE Lanes<T> load(std::intptr_t position) const {
+    return gatherLanes<T>([&](int w) ZELM_BODY { return address(position, w); });
+  }
+  ZELM_INLINE void store(std::intptr_t position, const Lanes<T>& lanes) const {
+    scatterLanes<T>([&](int w) ZELM_BODY { return address(position, w); }, lanes);
+  }
+};
+
+// Pointer layout where stride0 is the element size: the objects of a whole block are neighbours at each position.
+template <class T> struct NeighbourOffsets {
+  std::intptr_t first;
+  ZELM_INLINE char* address(std::intptr_t position, int w) const {
+    return reinterpret_cast<char*>(position + first) + w * static_cast<int>(sizeof(T));
+  }
+  ZELM_INLINE Lanes<T> load(std::intptr_t position) const { return loadLanes<T>(address(position, 0)); }
+  ZELM_INLINE void store(std::intptr_t position, const Lanes<T>& lanes) const {
+    storeLanes(address(position, 0), lanes);
   }
 };
 
@@ -164,29 +286,6 @@ template <class Operand> __attribute__((noinline)) auto objectOffsets(const Oper
   ObjectOffsets<T> offsets;
   forLanes<T>(k, count, [&](int w, int64_t object) { offsets.of[w] = objectOffset(x, object); });
   return offsets;
-}
-
-template <class T>
-inline void loadElements(const std::intptr_t* position, int elements, const ObjectOffsets<T>& object, Lanes<T>* lanes) {
-  if (object.neighbours()) {
-    for (int e = 0; e < elements; ++e)
-      lanes[e] = loadLanes<T>(reinterpret_cast<const char*>(position[e] + object.of[0]));
-  } else {
-    for (int e = 0; e < elements; ++e)
-      lanes[e] =
-          gatherLanes<T>([&](int w) ZELM_BODY { return reinterpret_cast<const char*>(position[e] + object.of[w]); });
-  }
-}
-template <class T>
-inline void storeElements(const std::intptr_t* position, int elements, const ObjectOffsets<T>& object,
-                          const Lanes<T>* lanes) {
-  if (object.neighbours()) {
-    for (int e = 0; e < elements; ++e)
-      storeLanes(reinterpret_cast<char*>(position[e] + object.of[0]), lanes[e]);
-  } else {
-    for (int e = 0; e < elements; ++e)
-      scatterLanes<T>([&](int w) ZELM_BODY { return reinterpret_cast<char*>(position[e] + object.of[w]); }, lanes[e]);
-  }
 }
 
 } // namespace zelm

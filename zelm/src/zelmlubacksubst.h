@@ -145,9 +145,11 @@ inline void substituteVectors(const LuFactors<typename D::Element, N>& f, const 
     const auto from = vectorPositions<N>(src2);
     const auto to = vectorPositions<N>(dst);
     for (int64_t k = 0; k < count; k += W) {
-      loadElements<T>(from.of, N, objectOffsets(src2, k, count), b.element);
+      const auto right = objectOffsets(src2, k, count);
+      const auto result = objectOffsets(dst, k, count);
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { b.element[i] = right.load(from.of[i]); });
       substituteBlock<N, T>(lanes, p, b);
-      storeElements<T>(to.of, N, objectOffsets(dst, k, count), b.element);
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { result.store(to.of[i], b.element[i]); });
     }
   }
 }
@@ -155,21 +157,39 @@ inline void substituteVectors(const LuFactors<typename D::Element, N>& f, const 
 // ---------------------------------------------------------------------------------------------------------------------
 // A block of matrices and right-hand sides, pair by pair
 
-// out(i, j) = in(p[i], j) in every lane.
-template <class L, int R, int C>
-ZELM_INLINE void orderRows(const Tile<L, R, C>& in, const IntegerOf<L> (&p)[R], Tile<L, R, C>& out) {
-  ZELM_UNROLL
-  for (int i = 0; i < R; ++i) {
+template <class T, int N>
+ZELM_INLINE void loadIndex(const PlainAddresses<T, const int32_t>& index, IntegerOf<Lanes<T>> (&p)[N]) {
+  if constexpr (sizeof(T) == 4) {
+    ObjectAddresses<float, const char> bytes;
+    Lanes<float> lanes[N];
     ZELM_UNROLL
-    for (int j = 0; j < C; ++j)
-      out(i, j) = in(R - 1, j);
+    for (int w = 0; w < laneCount<T>; ++w)
+      bytes.of[w] = reinterpret_cast<const char*>(index.of[w]);
+    loadRun<N, float>(bytes, 0, lanes);
     ZELM_UNROLL
-    for (int r = 0; r < R - 1; ++r) {
-      const IntegerOf<L> here = p[i] == r;
+    for (int i = 0; i < N; ++i)
+      p[i] = reinterpret_cast<IntegerOf<Lanes<T>>>(lanes[i]);
+  } else {
+#ifdef __AVX2__
+    ZELM_UNROLL
+    for (int i = 0; i < N; i += 4) {
+      const int from = i + 4 <= N || N < 4 ? i : N - 4;
+      __m128 row[4];
       ZELM_UNROLL
-      for (int j = 0; j < C; ++j)
-        out(i, j) = select<L>(here, in(r, j), out(i, j));
+      for (int w = 0; w < 4; ++w) {
+        const char* const at = reinterpret_cast<const char*>(index.of[w] + from);
+        if constexpr (N == 3)
+          row[w] = loadTriple(at);
+        else
+          row[w] = loadLanes<float, 4>(at);
+      }
+      _MM_TRANSPOSE4_PS(row[0], row[1], row[2], row[3]);
+      ZELM_UNROLL
+      for (int q = 0; q < 4; ++q)
+        if (from + q < N)
+          p[from + q] = reinterpret_cast<IntegerOf<Lanes<T>>>(_mm256_cvtepi32_epi64(_mm_castps_si128(row[q])));
     }
+#endif
   }
 }
 
@@ -194,46 +214,47 @@ substituteRows(const ObjectAddresses<T, const char>& src1, int64_t step, const P
   storeRun<N, T>(dst, 0, x.element);
 }
 
-template <int N, class T>
-__attribute__((noinline)) void substituteElements(const Positions<N * N>& src1Positions, const ObjectOffsets<T>& src1,
-                                                  const PlainAddresses<T, const int32_t>& index,
-                                                  const Positions<N>& src2Positions, const ObjectOffsets<T>& src2,
-                                                  const Positions<N>& dstPositions, const ObjectOffsets<T>& dst) {
-  LuFactors<Lanes<T>, N> f;
-  Tile<Lanes<T>, 1, N> x;
-  if constexpr (laneCount<T> == 2) {
-    // Fewer loads of single elements than choices among all rows.
-    for (int i = 0; i < N; ++i) {
-      for (int j = 0; j < N; ++j)
-        f.a(i, j) = gatherLanes<T>([&](int w) ZELM_BODY {
-          return reinterpret_cast<const char*>(src1Positions.of[index.of[w][i] * N + j] + src1.of[w]);
-        });
-      x(0, i) = gatherLanes<T>([&](int w) ZELM_BODY {
-        return reinterpret_cast<const char*>(src2Positions.of[index.of[w][i]] + src2.of[w]);
-      });
-    }
-  } else {
-    Tile<Lanes<T>, N, N> a;
-    Tile<Lanes<T>, N, 1> b;
-    Tile<Lanes<T>, N, 1> ordered;
-    loadElements<T>(src1Positions.of, N * N, src1, a.element);
-    loadElements<T>(src2Positions.of, N, src2, b.element);
-    IntegerOf<Lanes<T>> p[N];
-    ZELM_UNROLL
-    for (int i = 0; i < N; ++i) {
+// False, and nothing stored, if an index has a row twice.
+template <int N, class T, class Objects, class Index>
+__attribute__((noinline)) bool substituteElements(const Positions<N * N>& src1Positions, const Objects& src1,
+                                                  const Index& index, const Positions<N>& src2Positions,
+                                                  const Objects& src2, const Positions<N>& dstPositions,
+                                                  const Objects& dst) {
+  using L = Lanes<T>;
+  LuFactors<L, N> f;
+  Tile<L, 1, N> x;
+  const PlainAddresses<T, const int32_t> places = index;
+  if constexpr (laneCount<T> == 2 || (vectorBytes == 16 && N > 4)) {
+    // Loads of single elements are less than exchanges of rows without blend instructions.
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
+      const std::intptr_t* row[laneCount<T>];
       ZELM_UNROLL
       for (int w = 0; w < laneCount<T>; ++w)
-        p[i][w] = index.of[w][i];
-    }
-    orderRows(a, p, f.a);
-    orderRows(b, p, ordered);
-    ZELM_UNROLL
-    for (int i = 0; i < N; ++i)
-      x(0, i) = ordered(i, 0);
+        row[w] = &src1Positions.of[places.of[w][i] * N];
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
+        f.a(i, j) = gatherLanes<T>([&](int w) ZELM_BODY { return src1.address(row[w][j], w); });
+      });
+      x(0, i) = gatherLanes<T>([&](int w) ZELM_BODY { return src2.address(src2Positions.of[places.of[w][i]], w); });
+    });
+  } else {
+    IntegerOf<L> p[N];
+    loadIndex<T>(places, p);
+    const RowOrder<L, N> order(p);
+    if (!order.isPermutation())
+      return false;
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
+      L column[N];
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { column[i] = src1.load(src1Positions.of[i * N + j]); });
+      order.put(column);
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { f.a(i, j) = column[i]; });
+    });
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { x.element[i] = src2.load(src2Positions.of[i]); });
+    order.put(x.element);
   }
   takeReciprocals(f);
   substitute(f, x);
-  storeElements<T>(dstPositions.of, N, dst, x.element);
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { dst.store(dstPositions.of[i], x.element[i]); });
+  return true;
 }
 
 template <int N, class A, class B, class D>
@@ -245,8 +266,7 @@ inline void substitutePairs(const A& src1, const Plain<const int32_t>& index, co
     const int32_t* p = index.pointer + k * N;
     substituteOne<N, T>(readFactors<N, T>(src1.object(k, N), p), p, src2.object(k), dst.object(k));
   };
-  if (count % W == 1)
-    one(count - 1);
+  // A lone last object goes by itself.
   const int32_t end = count % W == 1 ? count - 1 : count;
   if constexpr (decltype(dst.object(0))::unitRows) {
     for (int64_t k = 0; k < end; k += W)
@@ -256,10 +276,25 @@ inline void substitutePairs(const A& src1, const Plain<const int32_t>& index, co
     const auto matrix = matrixPositions<N>(src1);
     const auto from = vectorPositions<N>(src2);
     const auto to = vectorPositions<N>(dst);
+    bool neighbours = false;
+    if constexpr (isPointerLayout<D>)
+      neighbours = areNeighbours(src1) && areNeighbours(src2) && areNeighbours(dst);
+    const auto block = [&](int64_t k) {
+      if constexpr (isPointerLayout<D>)
+        if (neighbours && k + W <= count)
+          return substituteElements<N, T>(
+              matrix, NeighbourOffsets<T>{objectOffset(src1, k)}, PlainRun<N, T, const int32_t>{index.pointer + k * N},
+              from, NeighbourOffsets<T>{objectOffset(src2, k)}, to, NeighbourOffsets<T>{objectOffset(dst, k)});
+      return substituteElements<N, T>(matrix, objectOffsets(src1, k, count), plainAddresses<T>(index, k, count), from,
+                                      objectOffsets(src2, k, count), to, objectOffsets(dst, k, count));
+    };
     for (int64_t k = 0; k < end; k += W)
-      substituteElements<N, T>(matrix, objectOffsets(src1, k, count), plainAddresses<T>(index, k, count), from,
-                               objectOffsets(src2, k, count), to, objectOffsets(dst, k, count));
+      if (!block(k))
+        for (int64_t m = k; m < end && m < k + W; ++m)
+          one(m);
   }
+  if (end < count)
+    one(end);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -88,65 +88,17 @@ template <class T, int N, int K> struct Exchange {
   ZELM_INLINE void places(int32_t (&p)[N]) const { std::swap(p[K], p[best]); }
 };
 
-// The same in every lane. A lane exchanges with the last of the rows that replaced the best so far.
-template <class L, int N, int K> struct LanesExchange {
-  using Integers = IntegerOf<L>;
-  Integers best[N];
-  L largest;
-  ZELM_INLINE explicit LanesExchange(const Tile<L, N, N>& a) : largest(magnitude(a(K, K))) {
-    ZELM_UNROLL
-    for (int i = K + 1; i < N; ++i) {
-      const L candidate = magnitude(a(i, K));
-      best[i] = candidate > largest;
-      largest = candidate > largest ? candidate : largest;
-    }
-    Integers replaced = best[N - 1];
-    ZELM_UNROLL
-    for (int i = N - 2; i > K; --i) {
-      const Integers replaces = best[i];
-      best[i] = replaces & ~replaced;
-      replaced |= replaces;
-    }
-  }
-  ZELM_INLINE void column(Tile<L, N, N>& a, int j) const {
-    const L top = a(K, j);
-    ZELM_UNROLL
-    for (int i = K + 1; i < N; ++i) {
-      a(K, j) = select<L>(best[i], a(i, j), a(K, j));
-      a(i, j) = select<L>(best[i], top, a(i, j));
-    }
-  }
-  ZELM_INLINE void places(Integers (&p)[N]) const {
-    const Integers top = p[K];
-    Integers changes{};
-    ZELM_UNROLL
-    for (int i = K + 1; i < N; ++i) {
-      const Integers change = (top ^ p[i]) & best[i];
-      p[i] ^= change;
-      changes ^= change;
-    }
-    p[K] = top ^ changes;
-  }
-};
-
-// Steps K to the last, column by column. Returns the number of steps that passed; of a block, N if all passed in all
-// lanes.
-template <int K, class L, int N>
-ZELM_INLINE int eliminate(Tile<L, N, N>& a, [[maybe_unused]] IntegerOf<L> (&p)[N],
-                          [[maybe_unused]] IntegerOf<L> singular) {
-  using T = ElementOf<L>;
-  constexpr bool isBlock = LaneTraits<L>::width > 1;
+// Steps K to the last. Returns the number of steps that passed.
+template <int K, class T, int N> ZELM_INLINE int eliminate(Tile<T, N, N>& a, [[maybe_unused]] int32_t (&p)[N]) {
   if constexpr (K < N - 1) {
-    const std::conditional_t<isBlock, LanesExchange<L, N, K>, Exchange<T, N, K>> exchange(a);
+    const Exchange<T, N, K> exchange(a);
     exchange.places(p);
-    if constexpr (isBlock)
-      singular |= splat<L>(fixedLimit<T>) > exchange.largest;
-    else if (fixedLimit<T> > exchange.largest)
+    if (fixedLimit < T >> exchange.largest)
       return K;
     ZELM_UNROLL
     for (int j = 0; j <= K; ++j)
       exchange.column(a, j);
-    const L reciprocal = splat<L>(T(1)) / a(K, K);
+    const T reciprocal = T(1) / a(K, K);
     ZELM_UNROLL
     for (int i = K + 1; i < N; ++i)
       a(i, K) = a(i, K) * reciprocal;
@@ -157,24 +109,16 @@ ZELM_INLINE int eliminate(Tile<L, N, N>& a, [[maybe_unused]] IntegerOf<L> (&p)[N
       for (int i = K + 1; i < N; ++i)
         a(i, j) = a(i, j) - a(i, K) * a(K, j);
     }
-    return eliminate<K + 1>(a, p, singular);
-  } else if constexpr (isBlock) {
-    singular |= splat<L>(fixedLimit<T>) > magnitude(a(K, K));
-    return anyLane(singular) ? 0 : N;
+    return eliminate<K + 1>(a, p);
   } else {
     return fixedLimit<T> > magnitude(a(K, K)) ? K : N;
   }
 }
 
-template <class L, int N> ZELM_INLINE int eliminate(Tile<L, N, N>& a, IntegerOf<L> (&p)[N]) {
-  ZELM_UNROLL
-  for (int i = 0; i < N; ++i)
-    p[i] = i - IntegerOf<L>{};
-  return eliminate<0>(a, p, IntegerOf<L>{});
-}
-
 template <int N, class T> __attribute__((noinline)) int eliminateOne(Tile<T, N, N>& a, int32_t (&p)[N]) {
-  return eliminate(a, p);
+  for (int i = 0; i < N; ++i)
+    p[i] = i;
+  return eliminate<0>(a, p);
 }
 
 // One object. A failing one leaves the rows of the steps that passed, in the pointer layout none.
@@ -198,23 +142,86 @@ ZELM_INLINE ZelStatus decomposeOne(const S& src, int32_t* index, const D& dst) {
 // ---------------------------------------------------------------------------------------------------------------------
 // Blocks
 
-// out(p[i], j) = in(i, j) in every lane.
-template <class L, int R, int C>
-ZELM_INLINE void restoreRows(const Tile<L, R, C>& in, const IntegerOf<L> (&p)[R], Tile<L, R, C>& out) {
-  ZELM_UNROLL
-  for (int r = 0; r < R; ++r) {
-    ZELM_UNROLL
-    for (int j = 0; j < C; ++j)
-      out(r, j) = in(R - 1, j);
-    ZELM_UNROLL
-    for (int i = 0; i < R - 1; ++i) {
-      const IntegerOf<L> here = p[i] == r;
-      ZELM_UNROLL
-      for (int j = 0; j < C; ++j)
-        out(r, j) = select<L>(here, in(i, j), out(r, j));
-    }
+// A block of matrices; the columns are taken from left to right, each with all its steps. with[k][i]: the lanes that
+// exchange row k with row i at step k. Where a column is done, its rows are in the order of its own step or, with
+// Follow, go through the exchanges of the later columns too.
+template <class T, int N, bool Follow> struct LuBlock {
+  using L = Lanes<T>;
+  using I = IntegerOf<L>;
+  static constexpr int exchanges = N - 1;
+  L column[N][N];
+  I with[exchanges][N];
+  I p[N];
+
+  // load(i, j) is an element of the source. False if a lane is singular.
+  template <class Load> ZELM_INLINE bool eliminate(const Load& load) {
+    I singular{};
+    L place[N];
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { place[i] = reinterpret_cast<L>(i.value - I{}); });
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
+      singular |= splat<L>(fixedLimit<T>) > step(j, load);
+      if constexpr (j < exchanges) {
+        exchange(j, with[j], place);
+        if constexpr (Follow)
+          ascending(Fixed<0>{}, j, [&](auto before) ZELM_BODY { exchange(j, with[j], column[before]); });
+      }
+    });
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { p[i] = reinterpret_cast<I>(place[i]); });
+    return !anyLane(singular);
   }
-}
+
+  // Column j in the order of the source, where nothing followed.
+  template <class J> ZELM_INLINE void restore(J j, L (&x)[N]) const {
+    copy(column[j], x);
+    descending(Fixed<0>{}, Fixed<(j < exchanges ? j + 1 : exchanges)>{},
+               [&](auto k) ZELM_BODY { exchange(k, with[k], x); });
+  }
+
+private:
+  ZELM_INLINE static void copy(const L (&from)[N], L (&to)[N]) {
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { to[i] = from[i]; });
+  }
+
+  // Column j: the steps before its own, and its own. Returns the magnitude of the pivot.
+  template <class J, class Load> ZELM_INLINE L step(J j, const Load& load) {
+    L x[N];
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { x[i] = load(i, j); });
+    if constexpr (Follow)
+      ascending(Fixed<0>{}, j, [&](auto k) ZELM_BODY { exchange(k, with[k], x); });
+    ascending(Fixed<0>{}, j, [&](auto k) ZELM_BODY {
+      if constexpr (!Follow)
+        exchange(k, with[k], x);
+      ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY { x[i] = x[i] - column[k][i] * x[k]; });
+    });
+    L largest = magnitude(x[j]);
+    if constexpr (j < exchanges) {
+      largest = findPivot(j, x);
+      exchange(j, with[j], x);
+      const L reciprocal = splat<L>(T(1)) / x[j];
+      ascending(next(j), Fixed<N>{}, [&](auto i) ZELM_BODY { x[i] = x[i] * reciprocal; });
+    }
+    copy(x, column[j]);
+    return largest;
+  }
+
+  // A lane exchanges with the last of the rows that replaced the best so far: the first one wins among equals, and a
+  // NaN neither replaces nor is replaced.
+  template <class K> ZELM_INLINE L findPivot(K k, const L (&x)[N]) {
+    L largest = magnitude(x[k]);
+    ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY {
+      const L candidate = magnitude(x[i]);
+      with[k][i] = candidate > largest;
+      largest = larger(candidate, largest);
+    });
+    I replaced = with[k][N - 1];
+    descending(next(k), Fixed<N - 1>{}, [&](auto i) ZELM_BODY {
+      const I replaces = with[k][i];
+      with[k][i] = without(replaces, replaced);
+      replaced |= replaces;
+    });
+    return largest;
+  }
+};
 
 #ifdef __AVX2__
 // The lower halves of four 64-bit integers, as bits.
@@ -266,78 +273,64 @@ ZELM_INLINE void storeIndex(const PlainAddresses<T, int32_t>& index, const Integ
   }
 }
 
-// False, and nothing stored, if an object of the block is singular.
+// False, and nothing stored, if an object of the block is singular. Rows of at least a chunk are stored where they
+// belong by address, shorter ones and single elements in the order of the source.
 template <int N, class T>
 __attribute__((noinline)) bool decomposeRows(const ObjectAddresses<T, const char>& src, int64_t srcStep,
                                              const PlainAddresses<T, int32_t>& index,
                                              const ObjectAddresses<T, char>& dst, int64_t dstStep) {
+  constexpr bool byAddress = N >= chunkElements<T>;
   Tile<Lanes<T>, N, N> a;
-  IntegerOf<Lanes<T>> p[N];
   loadRows(src, srcStep, a);
-  if (eliminate(a, p) < N)
+  LuBlock<T, N, byAddress> block;
+  if (!block.eliminate([&](auto i, auto j) ZELM_BODY { return a(i, j); }))
     return false;
-  storeIndex<T>(index, p);
-  if constexpr (N < chunkElements<T>) {
-    Tile<Lanes<T>, N, N> rows;
-    restoreRows(a, p, rows);
-    storeRows(dst, dstStep, rows);
-  } else {
+  storeIndex<T>(index, block.p);
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
+    if constexpr (!byAddress)
+      block.restore(j, block.column[j]);
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { a(i, j) = block.column[j][i]; });
+  });
+  if constexpr (byAddress) {
     ZELM_UNROLL
     for (int i = 0; i < N; ++i) {
       ObjectAddresses<T, char> row;
       ZELM_UNROLL
       for (int w = 0; w < laneCount<T>; ++w)
-        row.of[w] = dst.of[w] + (sizeof(T) == 8 ? p[i][w] : index.of[w][i]) * dstStep;
+        row.of[w] = dst.of[w] + (sizeof(T) == 8 ? block.p[i][w] : index.of[w][i]) * dstStep;
       storeRun<N, T>(row, 0, &a(i, 0));
     }
+  } else {
+    storeRows(dst, dstStep, a);
   }
   return true;
 }
 
-template <int N, class T>
-__attribute__((noinline)) bool decomposeElements(const Positions<N * N>& srcPositions, const ObjectOffsets<T>& src,
-                                                 const PlainAddresses<T, int32_t>& index,
-                                                 const Positions<N * N>& dstPositions, const ObjectOffsets<T>& dst) {
-  Tile<Lanes<T>, N, N> a;
-  IntegerOf<Lanes<T>> p[N];
-  loadElements<T>(srcPositions.of, N * N, src, a.element);
-  if (eliminate(a, p) < N)
+template <int N, class T, class Objects, class Index>
+__attribute__((noinline)) bool decomposeElements(const Positions<N * N>& srcPositions, const Objects& src,
+                                                 const Index& index, const Positions<N * N>& dstPositions,
+                                                 const Objects& dst) {
+  LuBlock<T, N, false> block;
+  if (!block.eliminate([&](auto i, auto j) ZELM_BODY { return src.load(srcPositions.of[i * N + j]); }))
     return false;
-  storeIndex<T>(index, p);
-  if constexpr (laneCount<T> == 2) {
-    // Two stores are less than the choices among all rows.
-    for (int i = 0; i < N; ++i)
-      for (int j = 0; j < N; ++j)
-        scatterLanes<T>(
-            [&](int w)
-                ZELM_BODY { return reinterpret_cast<char*>(dstPositions.of[index.of[w][i] * N + j] + dst.of[w]); },
-            a(i, j));
-  } else {
-    Tile<Lanes<T>, N, N> rows;
-    restoreRows(a, p, rows);
-    storeElements<T>(dstPositions.of, N * N, dst, rows.element);
-  }
+  storeIndex<T>(PlainAddresses<T, int32_t>(index), block.p);
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
+    Lanes<T> x[N];
+    block.restore(j, x);
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { dst.store(dstPositions.of[i * N + j], x[i]); });
+  });
   return true;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Kernels
 
-// Object k as an operand of a general loop.
-template <class T, class Stride> ZELM_INLINE Matrix<T, Stride> loopOperand(const Matrix<T, Stride>& x, int64_t) {
-  return x;
-}
-template <class T, class Stride> ZELM_INLINE Matrix<T, Stride> loopOperand(const Matrices<T, Stride>& x, int64_t k) {
-  return {reinterpret_cast<T*>(x.object(k, 0).origin), x.stride1, x.stride2};
-}
-template <class T, class Stride> ZELM_INLINE Matrix<T, Stride> loopOperand(const MatricesL<T, Stride>& x, int64_t k) {
-  return x.single(k);
-}
-template <class T> ZELM_INLINE MatrixP<T> loopOperand(const MatrixP<T>& x, int64_t) {
-  return x;
-}
-template <class T> ZELM_INLINE MatrixP<T> loopOperand(const MatricesP<T>& x, int64_t k) {
-  return x.single(k);
+// Object k as a single operand.
+template <class Operand> ZELM_INLINE auto singleOperand(const Operand& x, int64_t k) {
+  if constexpr (Operand::isArray)
+    return x.single(k);
+  else
+    return x;
 }
 
 template <int N, class S, class D>
@@ -356,7 +349,13 @@ inline ZelStatus decomposeFixed(const S& src, const Plain<int32_t>& index, const
                                      matrixAddresses(dst, k, count), dst.stride1);
         };
       else
-        return [&, srcPositions = matrixPositions<N>(src), dstPositions = matrixPositions<N>(dst)](int64_t k) {
+        return [&, srcPositions = matrixPositions<N>(src), dstPositions = matrixPositions<N>(dst),
+                neighbours = areNeighbours(src) && areNeighbours(dst)](int64_t k) {
+          if constexpr (isPointerLayout<D>)
+            if (neighbours && k + W <= count)
+              return decomposeElements<N, T>(srcPositions, NeighbourOffsets<T>{objectOffset(src, k)},
+                                             PlainRun<N, T, int32_t>{index.pointer + k * N}, dstPositions,
+                                             NeighbourOffsets<T>{objectOffset(dst, k)});
           return decomposeElements<N, T>(srcPositions, objectOffsets(src, k, count), plainAddresses<T>(index, k, count),
                                          dstPositions, objectOffsets(dst, k, count));
         };
@@ -386,7 +385,7 @@ inline ZelStatus decompose(Otherwise<Loop>, const S& src, const Plain<int32_t>& 
       Sizes<3, 4, 5, 6>{}, widthHeight, [&](auto side) { return decomposeFixed<side>(src, index, dst, count); },
       [&] {
         for (int32_t k = 0; k < count; ++k)
-          if (const ZelStatus status = Loop(loopOperand(src, k), index.single(k), loopOperand(dst, k), widthHeight);
+          if (const ZelStatus status = Loop(singleOperand(src, k), index.single(k), singleOperand(dst, k), widthHeight);
               status != zelStatusOk)
             return static_cast<ZelStatus>(status);
         return static_cast<ZelStatus>(zelStatusOk);
