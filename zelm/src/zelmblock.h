@@ -146,12 +146,14 @@ ZELM_INLINE void storePairs(const ObjectAddresses<float, char>& x, int64_t offse
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Blocks by layout. load and store take a run of n elements of row i from
-// column j on, n known to the compiler or not.
+// column j on, n known to the compiler or not; `straight` are those with
+// vector loads and stores, for which it should be.
 
 // Standard and list layout; a vector is a row.
 template <class T, class ColumnStep> struct StridedBlock {
   using Element = std::remove_const_t<T>;
   static constexpr bool unit = std::is_same_v<ColumnStep, UnitStep<T>>;
+  static constexpr bool straight = unit;
   static constexpr int chunk = chunkElements<Element>;
   static constexpr auto elementBytes = static_cast<int64_t>(sizeof(Element));
   ObjectAddresses<Element, Byte<T>> objects;
@@ -238,6 +240,7 @@ template <class T> struct PositionBlock {
   int64_t rowLength;
   int64_t offset[laneCount<Element>];
 
+  static constexpr bool straight = false;
   static constexpr bool gapless(int) { return false; }
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
@@ -261,6 +264,7 @@ template <class T> struct NeighbourBlock {
   int64_t rowLength;
   int64_t offset;
 
+  static constexpr bool straight = true;
   static constexpr bool gapless(int) { return false; }
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {

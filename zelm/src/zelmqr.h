@@ -30,6 +30,16 @@
 
 namespace zelm {
 
+// The agreement of the sizes, which follow the operands: at least as many rows as columns.
+struct NotWider {
+  template <class... Rest> static bool agree(const Size& width, const Size& height, const Rest&...) {
+    return width <= height;
+  }
+  template <class Operand, class... Rest> static bool agree(const Operand&, const Rest&... rest) {
+    return agree(rest...);
+  }
+};
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Arithmetic, on an object or on a block of them
 
@@ -61,6 +71,13 @@ template <class L, class Width> struct Rectangle {
   ZELM_INLINE L load(int i, int j) const { return elements.load(i * width + j); }
   ZELM_INLINE void store(int i, int j, const L& value) const { elements.store(i * width + j, value); }
 };
+
+template <class Width, class Height> ZELM_INLINE constexpr auto product(Width width, Height height) {
+  if constexpr (isFixed<Width> && isFixed<Height>)
+    return Fixed<width * height>{};
+  else
+    return width * height;
+}
 
 // The last column of a square matrix has no reflection, and so no test.
 template <class Width, class Height> ZELM_INLINE constexpr auto qrSteps(Width width, Height height) {
@@ -230,19 +247,33 @@ __attribute__((noinline)) void qrSolveLanes(QrScratch<V>& low, QrScratch<V>& hig
   });
 }
 
+template <class Objects, class L, class Width, class Height>
+ZELM_INLINE void loadElements(const Objects& objects, L* lanes, Width width, Height height) {
+  if (objects.gapless(width))
+    return objects.load(0, 0, product(width, height), lanes);
+  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.load(i, 0, width, lanes + i * width); });
+}
+template <class Objects, class L, class Width, class Height>
+ZELM_INLINE void storeElements(const Objects& objects, const L* lanes, Width width, Height height) {
+  if (objects.gapless(width))
+    return objects.store(0, 0, product(width, height), lanes);
+  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.store(i, 0, width, lanes + i * width); });
+}
+
+// Calls of their own: a shape that the compiler knows, if the lanes are neighbours or come from neighbouring elements.
 template <class Objects, class L>
 __attribute__((noinline)) void loadRectangle(const Objects& objects, L* lanes, int width, int height) {
-  if (objects.gapless(width))
-    return objects.load(0, 0, width * height, lanes);
-  for (int i = 0; i < height; ++i)
-    objects.load(i, 0, width, lanes + i * width);
+  if constexpr (Objects::straight)
+    forQrShape(width, height, [&](auto w, auto h) ZELM_BODY { loadElements(objects, lanes, w, h); });
+  else
+    loadElements(objects, lanes, width, height);
 }
 template <class Objects, class L>
 __attribute__((noinline)) void storeRectangle(const Objects& objects, const L* lanes, int width, int height) {
-  if (objects.gapless(width))
-    return objects.store(0, 0, width * height, lanes);
-  for (int i = 0; i < height; ++i)
-    objects.store(i, 0, width, lanes + i * width);
+  if constexpr (Objects::straight)
+    forQrShape(width, height, [&](auto w, auto h) ZELM_BODY { storeElements(objects, lanes, w, h); });
+  else
+    storeElements(objects, lanes, width, height);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -266,6 +297,19 @@ ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& bu
   return qrFactor<T>(src.object(0, width), buffer.pointer, dst.object(0, width), width, height);
 }
 
+// A vector full of 3 by 3 matrices, which fit the registers.
+using Small = Fixed<3>;
+template <class V, class Source, class Result>
+__attribute__((noinline)) bool qrFactorSmall(const Source& src, const Result& dst) {
+  V element[Small::value * Small::value];
+  V vector[Small::value];
+  loadElements(src, element, Small{}, Small{});
+  if (!qrReduce<V>(Rectangle<V, Small>{{element}, {}}, Column<V>{vector}, Small{}, Small{}))
+    return false;
+  storeElements(dst, element, Small{}, Small{});
+  return true;
+}
+
 // Batches.
 template <class T, class Source, class Result>
 ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
@@ -278,8 +322,13 @@ ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& bu
   QrScratch<Lanes<T>> scratch[2];
   auto sources = matrixBlocks(src, width);
   auto results = matrixBlocks(dst, width);
+  const bool neighbours = areNeighbours(src) && areNeighbours(dst);
+  if (width == Small{} && height == Small{})
+    return forBlocks<laneCount<T>, isPointerLayout<Source>>(
+        count, neighbours,
+        [&](auto block) ZELM_BODY { return qrFactorSmall<Lanes<T>>(sources.at(block), results.at(block)); }, single);
   return forBlocks<2 * laneCount<T>, isPointerLayout<Source>>(
-      count, areNeighbours(src) && areNeighbours(dst),
+      count, neighbours,
       [&](auto block) ZELM_BODY {
         if (!inLanes)
           return false;
@@ -325,6 +374,20 @@ ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>&
   return zelStatusOk;
 }
 
+// A vector full of 3 by 3 systems.
+template <class V, class Matrix, class Right, class Result>
+__attribute__((noinline)) void qrSolveSmall(const Matrix& src1, const Right& src2, const Result& dst) {
+  V element[Small::value * Small::value];
+  V vector[Small::value];
+  loadElements(src1, element, Small{}, Small{});
+  src2.load(0, 0, Small{}, vector);
+  const Rectangle<V, Small> a{{element}, {}};
+  const Column<V> c{vector};
+  qrSolve<V>(
+      a, [&](auto k) ZELM_BODY { return qrDenominator<V>(a, k, Small{}); }, c, c, Small{}, Small{});
+  dst.store(0, 0, Small{}, vector);
+}
+
 // Batches.
 template <class T, class Matrix, class Right, class Result>
 ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
@@ -343,6 +406,14 @@ ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>&
   bool neighbours = areNeighbours(src2) && areNeighbours(dst);
   if constexpr (each) {
     neighbours = neighbours && areNeighbours(src1);
+    if (width == Small{} && height == Small{})
+      return forBlocks<laneCount<T>, isPointerLayout<Result>>(
+          count, neighbours,
+          [&](auto block) ZELM_BODY {
+            qrSolveSmall<Lanes<T>>(matrices.at(block), rights.at(block), results.at(block));
+            return true;
+          },
+          single);
   } else if (inLanes) {
     // One matrix: its lanes and the denominators of its reflections serve all
     // vectors.

@@ -5,14 +5,6 @@
 namespace zelm {
 namespace {
 
-// At least as many rows as columns.
-struct NotWider {
-  template <class M, class W, class B, class X>
-  static bool agree(const M&, const W&, const B&, const X&, Size width, Size height, Count) {
-    return width <= height;
-  }
-};
-
 // (width * (height + 1) + height) * count.
 struct MatrixEach {
   template <class M, class W, class B, class X>

@@ -5,14 +5,6 @@
 namespace zelm {
 namespace {
 
-// At least as many rows as columns.
-struct NotWider {
-  template <class M, class W, class B, class X>
-  static bool agree(const M&, const W&, const B&, const X&, Size width, Size height) {
-    return width <= height;
-  }
-};
-
 using N_Z_S_Shape = N_Z_S_M<NotWider>;
 using N_Z_H_Shape = N_Z_H_M<NotWider>;
 

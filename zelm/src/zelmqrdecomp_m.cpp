@@ -5,13 +5,6 @@
 namespace zelm {
 namespace {
 
-// At least as many rows as columns.
-struct NotWider {
-  template <class S, class B, class D> static bool agree(const S&, const B&, const D&, Size width, Size height) {
-    return width <= height;
-  }
-};
-
 using N_Z_S_Shape = N_Z_S_M<NotWider>;
 using N_Z_H_Shape = N_Z_H_M<NotWider>;
 

@@ -5,13 +5,6 @@
 namespace zelm {
 namespace {
 
-// At least as many rows as columns.
-struct NotWider {
-  template <class S, class B, class D> static bool agree(const S&, const B&, const D&, Size width, Size height, Count) {
-    return width <= height;
-  }
-};
-
 // width * height * 2 * count.
 struct Twice {
   template <class S, class B, class D>
