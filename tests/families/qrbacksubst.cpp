@@ -54,7 +54,7 @@ std::vector<Sizes> shapes(const Member&) {
                               {4, 6},   {5, 6},   {3, 7},  {6, 7},   {6, 8},  {4, 8}, {4, 17}, {6, 12},
                               {1, 128}, {1, 129}, {8, 16}, {10, 13}, {20, 25}};
   std::vector<Sizes> all;
-  for (auto [width, height] : pairs) {
+  for (const auto& [width, height] : pairs) {
     all.emplace_back();
     all.back().set("width", width);
     all.back().set("height", height);
@@ -134,32 +134,47 @@ float* wild() {
   return reinterpret_cast<float*>(uintptr_t{64});
 }
 
-struct Batch {
+template <class T> struct BatchOf {
   int width, height, count;
-  std::vector<float> a, b, x;
-  Batch(int w, int h, int n) : width(w), height(h), count(n) {
+  std::vector<T> a, b, x;
+  BatchOf(int w, int h, int n) : width(w), height(h), count(n) {
     Rng rng(static_cast<uint64_t>(w * 1000 + h));
     a.resize(static_cast<size_t>(w * h * n));
     b.resize(static_cast<size_t>(h * n));
-    for (float& e : a)
-      e = static_cast<float>(rng.below(2001) - 1000) / 500.0f;
-    for (float& e : b)
-      e = static_cast<float>(rng.below(2001) - 1000) / 500.0f;
-    x.assign(static_cast<size_t>(w * n), -7.0f);
+    for (T& e : a)
+      e = static_cast<T>(rng.below(2001) - 1000) / T(500);
+    for (T& e : b)
+      e = static_cast<T>(rng.below(2001) - 1000) / T(500);
+    x.assign(static_cast<size_t>(w * n), T(-7));
   }
-  ZelStatus decompose(float* buffer) {
-    return zelmQRDecomp_ma_32f(a.data(), 4 * width * height, 4 * width, 4, buffer, a.data(), 4 * width * height,
-                               4 * width, 4, width, height, count);
+  ZelStatus decompose(T* buffer) {
+    constexpr int e = sizeof(T);
+    const auto call = [&](auto f) {
+      return f(a.data(), e * width * height, e * width, e, buffer, a.data(), e * width * height, e * width, e, width,
+               height, count);
+    };
+    if constexpr (e == 4)
+      return call(zelmQRDecomp_ma_32f);
+    else
+      return call(zelmQRDecomp_ma_64f);
   }
-  ZelStatus solve(float* buffer) {
-    return zelmQRBackSubst_mava_32f(a.data(), 4 * width * height, 4 * width, 4, buffer, b.data(), 4 * height, 4,
-                                    x.data(), 4 * width, 4, width, height, count);
+  ZelStatus solve(T* buffer) {
+    constexpr int e = sizeof(T);
+    const auto call = [&](auto f) {
+      return f(a.data(), e * width * height, e * width, e, buffer, b.data(), e * height, e, x.data(), e * width, e,
+               width, height, count);
+    };
+    if constexpr (e == 4)
+      return call(zelmQRBackSubst_mava_32f);
+    else
+      return call(zelmQRBackSubst_mava_64f);
   }
   ZelStatus solveOne(float* buffer) {
     return zelmQRBackSubst_mva_32f(a.data(), 4 * width, 4, buffer, b.data(), 4 * height, 4, x.data(), 4 * width, 4,
                                    width, height, count);
   }
 };
+using Batch = BatchOf<float>;
 
 TEST(QRBuffer, SmallSquaresDoWithout) {
   for (int n : {3, 4, 5, 6})
@@ -208,51 +223,54 @@ TEST(QRBuffer, FrontsBlock) {
 
 // Backward error of square systems; of tall ones, how far the residual is from being orthogonal to the columns, which
 // is what makes a solution that of least squares. Both in units of epsilon.
-TEST(QRResidual, RandomSystems) {
+template <class T> void checkRandomSystems() {
   constexpr int pairs[][2] = {{1, 1},   {2, 2}, {3, 3}, {4, 4}, {5, 5},  {6, 6},  {9, 9},
                               {14, 14}, {1, 4}, {3, 6}, {4, 5}, {6, 12}, {6, 30}, {9, 20}};
-  for (auto [width, height] : pairs) {
-    Batch batch(width, height, 100);
+  for (const auto& [width, height] : pairs) {
+    BatchOf<T> batch(width, height, 100);
     for (size_t e = 0; e < batch.a.size(); ++e) // columns of very different length: condition about 10^4
       batch.a[e] *=
-          static_cast<float>(std::pow(10.0, -4.0 * static_cast<double>(e % static_cast<size_t>(width)) / width)) *
-          100.0f;
-    const std::vector<float> a = batch.a;
-    std::vector<float> buffer(static_cast<size_t>(height));
+          static_cast<T>(std::pow(10.0, -4.0 * static_cast<double>(e % static_cast<size_t>(width)) / width)) * T(100);
+    const std::vector<T> a = batch.a;
+    std::vector<T> buffer(static_cast<size_t>(height));
     ASSERT_EQ(batch.decompose(buffer.data()), zelStatusOk);
     ASSERT_EQ(batch.solve(buffer.data()), zelStatusOk);
     double worst = 0;
     for (int k = 0; k < batch.count; ++k) {
-      const float *ak = &a[static_cast<size_t>(k * width * height)], *bk = &batch.b[static_cast<size_t>(k * height)],
-                  *xk = &batch.x[static_cast<size_t>(k * width)];
-      std::vector<double> r;
-      double norm = 0, length = 0;
+      const T *ak = &a[static_cast<size_t>(k * width * height)], *bk = &batch.b[static_cast<size_t>(k * height)],
+              *xk = &batch.x[static_cast<size_t>(k * width)];
+      std::vector<long double> r;
+      long double length = 0;
       for (int i = 0; i < height; ++i) {
-        double sum = bk[i], size = std::fabs(sum);
+        long double sum = bk[i], size = std::fabs(sum);
         for (int j = 0; j < width; ++j) {
-          sum -= static_cast<double>(ak[i * width + j]) * xk[j];
-          size += std::fabs(static_cast<double>(ak[i * width + j]) * xk[j]);
+          sum -= static_cast<long double>(ak[i * width + j]) * xk[j];
+          size += std::fabs(static_cast<long double>(ak[i * width + j]) * xk[j]);
         }
         r.push_back(sum);
-        norm = std::max(norm, size);
         length += size * size;
       }
       if (width == height) {
-        for (double e : r)
-          worst = std::max(worst, std::fabs(e) / std::sqrt(length));
+        for (long double e : r)
+          worst = std::max(worst, static_cast<double>(std::fabs(e) / std::sqrt(length)));
         continue;
       }
       for (int j = 0; j < width; ++j) {
-        double product = 0, column = 0;
+        long double product = 0, column = 0;
         for (int i = 0; i < height; ++i) {
           product += ak[i * width + j] * r[static_cast<size_t>(i)];
-          column += static_cast<double>(ak[i * width + j]) * ak[i * width + j];
+          column += static_cast<long double>(ak[i * width + j]) * ak[i * width + j];
         }
-        worst = std::max(worst, std::fabs(product) / std::sqrt(column * length));
+        worst = std::max(worst, static_cast<double>(std::fabs(product) / std::sqrt(column * length)));
       }
     }
-    EXPECT_LT(worst / static_cast<double>(std::numeric_limits<float>::epsilon()), 8) << width << " " << height;
+    EXPECT_LT(worst / static_cast<double>(std::numeric_limits<T>::epsilon()), 8) << width << " " << height;
   }
+}
+
+TEST(QRResidual, RandomSystems) {
+  checkRandomSystems<float>();
+  checkRandomSystems<double>();
 }
 
 TEST(QRResidual, HilbertMatrices) {
