@@ -4,6 +4,6 @@
 static const ZelLibVersion version = {
     6, 1, 137, 778, {'n', '8', '\0', '\0'}, "libzelmn8.so.6.1", "6.1 build 137.56", "Mar 17 2010"};
 
-extern "C" __attribute__((visibility("default"))) const ZelLibVersion* zelmGetLibVersion(void) {
+extern "C" const ZelLibVersion* zelmGetLibVersion(void) {
   return &version;
 }

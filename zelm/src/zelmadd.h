@@ -2,6 +2,7 @@
 #pragma once
 
 #include "zelmelementwise.h"
+#include "zelmframe.h"
 
 namespace zelm {
 
@@ -30,5 +31,24 @@ inline ZelStatus addPositions(AnySize, const A& src1, const B& src2, const D& ds
                               int32_t count = 1) {
   return combinePositions(Plus{}, src1, src2, dst, width, height, count);
 }
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Work estimates
+
+// One array as source: width * height * (2 * count + 1).
+struct OneArray {
+  template <class A, class B, class D>
+  static Wrapping of(const A&, const B&, const D&, Size width, Size height, Count count) {
+    return Wrapping(width) * height * (Wrapping(2) * count + 1);
+  }
+};
+
+// Two arrays as sources: 3 * width * height * count.
+struct TwoArrays {
+  template <class A, class B, class D>
+  static Wrapping of(const A&, const B&, const D&, Size width, Size height, Count count) {
+    return Wrapping(3) * width * height * count;
+  }
+};
 
 } // namespace zelm

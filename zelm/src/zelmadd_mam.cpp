@@ -1,20 +1,5 @@
 // Exported functions: Add on an array of matrices and a single one.
 #include "zelmadd.h"
-#include "zelmframe.h"
-
-namespace zelm {
-namespace {
-
-// One array as source: width * height * (2 * count + 1).
-struct OneArray {
-  template <class A, class B, class D>
-  static Wrapping of(const A&, const B&, const D&, Size width, Size height, Count count) {
-    return Wrapping(width) * height * (Wrapping(2) * count + 1);
-  }
-};
-
-} // namespace
-} // namespace zelm
 
 // clang-format off
 // The size test of mam in the standard layout stands behind the strides, in this form alone.

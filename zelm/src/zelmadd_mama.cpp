@@ -1,20 +1,5 @@
 // Exported functions: Add on two arrays of matrices.
 #include "zelmadd.h"
-#include "zelmframe.h"
-
-namespace zelm {
-namespace {
-
-// Two arrays as sources: 3 * width * height * count.
-struct TwoArrays {
-  template <class A, class B, class D>
-  static Wrapping of(const A&, const B&, const D&, Size width, Size height, Count count) {
-    return Wrapping(3) * width * height * count;
-  }
-};
-
-} // namespace
-} // namespace zelm
 
 // clang-format off
 //           exported function  arguments type  order of tests  estimate  forks: unit strides, any  kernels: unit strides, any  front

@@ -4,29 +4,13 @@
 // wherever a source is untransposed and lies exactly where dst does.
 #pragma once
 
-#include "zelmkernel.h"
-#include "zelmlane.h"
+#include "zelmtile.h"
 
 namespace zelm {
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Runs: elements that lie one behind the other, on vectors. Each vector is read just before it is written: processors
 // take loads and stores best in turns.
-
-// Elements of a run left before dst is aligned to a vector; -1 if it never is.
-template <class T> ZELM_INLINE int64_t elementsToAlignment(const char* dst) {
-  const auto beyond = reinterpret_cast<std::uintptr_t>(dst) % vectorBytes;
-  if (beyond % sizeof(T) != 0)
-    return -1;
-  return beyond == 0 ? 0 : static_cast<int64_t>((vectorBytes - beyond) / sizeof(T));
-}
-
-template <bool Stream, class V> ZELM_INLINE void putLanes(char* address, const V& v) {
-  if constexpr (Stream)
-    streamLanes(address, v);
-  else
-    storeLanes(address, v);
-}
 
 // dst[e] = op(a[e], b[e]) for elements e from `first` on, whole vectors only; returns the first element not done.
 template <class T, bool Stream, class Op>
@@ -55,10 +39,9 @@ ZELM_INLINE void runElements(Op op, char* dst, const char* a, const char* b, int
 
 // dst[e] = op(a[e], b[e]) for n elements.
 template <class T, class Op> inline void runPair(Op op, char* dst, const char* a, const char* b, int64_t n) {
-  constexpr auto E = static_cast<int64_t>(sizeof(T));
-  const int64_t lead = elementsToAlignment<T>(dst);
   int64_t e = 0;
-  if (n * E >= streamingBytes && lead >= 0 && dst != a && dst != b) {
+  if (isStreamed<T>(dst, n, a, b)) {
+    const int64_t lead = elementsToAlignment<T>(dst);
     runElements<T>(op, dst, a, b, 0, lead);
     e = runVectors<T, true>(op, dst, a, b, lead, n);
     _mm_sfence();
@@ -81,12 +64,23 @@ ZELM_INLINE int64_t runPeriodVectors(Op op, char* dst, const char* a, const char
   constexpr int W = laneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   constexpr int vectors = periodVectors<T>(Period);
+  const auto inPeriod = [window](int v) __attribute__((always_inline)) {
+    return loadLanes<T>(window + v * W % Period * E);
+  };
+  // Where they leave room for others, the period's vectors stay in registers.
+  constexpr bool held = vectors <= 12;
+  [[maybe_unused]] Lanes<T> period[vectors];
+  if constexpr (held) {
+    ZELM_UNROLL
+    for (int v = 0; v < vectors; ++v)
+      period[v] = inPeriod(v);
+  }
   int64_t e = 0;
   for (; e + vectors * W <= n; e += vectors * W) {
     ZELM_UNROLL
     for (int v = 0; v < vectors; ++v) {
       const int64_t at = (e + v * W) * E;
-      putLanes<Stream>(dst + at, op(loadLanes<T>(a + at), loadLanes<T>(window + v * W % Period * E)));
+      putLanes<Stream>(dst + at, op(loadLanes<T>(a + at), held ? period[v] : inPeriod(v)));
     }
   }
   for (; e + W <= n; e += W)
@@ -101,10 +95,10 @@ inline void runPeriod(Op op, char* dst, const char* a, const char* b, int64_t n)
   static_assert(Period >= laneCount<T>);
   // The period with its first elements once more, so that a vector can be read from any place of it.
   char window[Period * sizeof(T) + vectorBytes];
-  const int64_t lead = elementsToAlignment<T>(dst);
   int64_t done = 0;
-  if (n * E >= streamingBytes && lead >= 0 && dst != a) {
+  if (isStreamed<T>(dst, n, a)) {
     // Streamed vectors start where dst is aligned, which is somewhere inside the period.
+    const int64_t lead = elementsToAlignment<T>(dst);
     runElements<T>(op, dst, a, b, 0, lead);
     for (int64_t e = 0; e < Period + laneCount<T>; ++e)
       storeElement<T>(window + e * E, loadElement<T>(b + (lead + e) % Period * E));
@@ -129,38 +123,8 @@ template <int Bytes> struct FixedStep {
 // A W by W block of lanes, one vector a row.
 template <class T, int W> struct SquareBlock { Lanes<T, W> row[W]; };
 
-template <class T> ZELM_INLINE void transposeBlock(SquareBlock<T, 2>& b) {
-  const auto r0 = b.row[0];
-  const auto r1 = b.row[1];
-  b.row[0] = __builtin_shufflevector(r0, r1, 0, 2);
-  b.row[1] = __builtin_shufflevector(r0, r1, 1, 3);
-}
-template <class T> ZELM_INLINE void transposeBlock(SquareBlock<T, 4>& b) {
-  const auto a0 = __builtin_shufflevector(b.row[0], b.row[1], 0, 4, 1, 5);
-  const auto a1 = __builtin_shufflevector(b.row[0], b.row[1], 2, 6, 3, 7);
-  const auto a2 = __builtin_shufflevector(b.row[2], b.row[3], 0, 4, 1, 5);
-  const auto a3 = __builtin_shufflevector(b.row[2], b.row[3], 2, 6, 3, 7);
-  b.row[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
-  b.row[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
-  b.row[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
-  b.row[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
-}
-
-#ifdef __AVX2__
-ZELM_INLINE void transposeBlock(SquareBlock<double, 4>& b) {
-  // Even rows and odd rows within their halves, then the halves.
-  const auto a0 = __builtin_shufflevector(b.row[0], b.row[1], 0, 4, 2, 6);
-  const auto a1 = __builtin_shufflevector(b.row[0], b.row[1], 1, 5, 3, 7);
-  const auto a2 = __builtin_shufflevector(b.row[2], b.row[3], 0, 4, 2, 6);
-  const auto a3 = __builtin_shufflevector(b.row[2], b.row[3], 1, 5, 3, 7);
-  b.row[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
-  b.row[1] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
-  b.row[2] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
-  b.row[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
-}
-#endif
-
-// The W by W block of a view at (i, j), one row of it a vector, and its transposition into that form.
+// The W by W block of a view at (i, j), one row of the operation a vector: an operand whose columns are contiguous is
+// loaded by these and transposed.
 template <int W, class View> ZELM_INLINE auto loadBlock(const View& x, int64_t i, int64_t j) {
   using T = typename View::Element;
   SquareBlock<T, W> block;
@@ -168,7 +132,7 @@ template <int W, class View> ZELM_INLINE auto loadBlock(const View& x, int64_t i
   for (int r = 0; r < W; ++r)
     block.row[r] = loadLanes<T, W>(View::unitRows ? x.address(i + r, j) : x.address(i, j + r));
   if constexpr (!View::unitRows)
-    transposeBlock(block);
+    transposeSquare<T>(block.row);
   return block;
 }
 
@@ -372,7 +336,7 @@ ZELM_INLINE void combineSingleFixed(Op op, const A& src1, const B& src2, const D
     }
   }
   const LocalMatrix<T, N> local(objectOf(src2, 0, N, N));
-  if constexpr (isUnitStandard<A> && isUnitStandard<D> && !isUnitStandard<B>) {
+  if constexpr (isUnitStandard<A> && isUnitStandard<D>) {
     if (src1.packed(N, N) && dst.packed(N, N) && count >= laneCount<T>) {
       runPeriod<N * N, T>(op, bytesOf(dst), bytesOf(src1), local.view().origin, static_cast<int64_t>(N * N) * count);
       return;
@@ -426,14 +390,14 @@ ZELM_INLINE void combinePosition(Op op, char* dst, int64_t dstStep, const char* 
     storeElement<T>(dst + k * dstStep, op(loadElement<T>(a + k * aStep), loadElement<T>(b + k * bStep)));
 }
 
-// The same for neighbours: W objects a vector; a step of 0 is the single operand.
+// The same for neighbours, whole vectors of objects: the steps are an element, but that a single b has none.
 template <class T, bool SingleB, class Op>
 ZELM_INLINE void combineNeighbours(Op op, char* dst, const char* a, const char* b, int64_t n) {
   if constexpr (SingleB) {
     const T constant = loadElement<T>(b);
     constexpr auto E = static_cast<int64_t>(sizeof(T));
     constexpr int64_t W = laneCount<T>;
-    const Lanes<T> lanes = constant - Lanes<T>{};
+    const auto lanes = splat<Lanes<T>>(constant);
     int64_t k = 0;
     for (; k + W <= n; k += W)
       storeLanes(dst + k * E, op(loadLanes<T>(a + k * E), lanes));

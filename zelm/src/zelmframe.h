@@ -94,9 +94,10 @@ constexpr Forks from(int32_t limit) {
 constexpr Forks above(int32_t limit) {
   return {static_cast<int64_t>(limit) + 1};
 }
+// For the families that state it the other way round: below the limit a call stays unthreaded. The same as from().
 constexpr Forks notBelow(int32_t limit) {
   return {limit};
-} // "below the limit it stays unthreaded"
+}
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Frames
@@ -159,20 +160,21 @@ ZELM_INLINE ZelStatus arrayPointer(Tests, Estimate, Forks forks, Kernel kernel, 
 } // namespace zelm
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Rows of exported functions. SIG is a signature of zelmsignature.h, ORDER and ESTIMATE are types.
+// Rows of exported functions, which the public header makes visible. SIG is a signature of zelmsignature.h, ORDER and
+// ESTIMATE are types.
 
 // Single objects, standard layout.
 #define SINGLE(FUNCTION, SIG, T, ORDER, UNIT_KERNEL, ANY_KERNEL)                                                       \
   ZELM_DECLARE(UNIT_KERNEL, SIG, UNIT, T);                                                                             \
   ZELM_DECLARE(ANY_KERNEL, SIG, ANY, T);                                                                               \
-  extern "C" ZELM_EXPORT ZelStatus FUNCTION(SIG(PARAM, T)) {                                                           \
+  extern "C" ZelStatus FUNCTION(SIG(PARAM, T)) {                                                                       \
     return zelm::single(zelm::ORDER{}, UNIT_KERNEL, ANY_KERNEL, SIG(ARG, T));                                          \
   }
 
 // Single objects, pointer layout.
 #define SINGLE_POINTER(FUNCTION, SIG, T, ORDER, KERNEL)                                                                \
   ZELM_DECLARE(KERNEL, SIG, ANY, T);                                                                                   \
-  extern "C" ZELM_EXPORT ZelStatus FUNCTION(SIG(PARAM, T)) {                                                           \
+  extern "C" ZelStatus FUNCTION(SIG(PARAM, T)) {                                                                       \
     return zelm::singlePointer(zelm::ORDER{}, KERNEL, SIG(ARG, T));                                                    \
   }
 
@@ -181,7 +183,7 @@ ZELM_INLINE ZelStatus arrayPointer(Tests, Estimate, Forks forks, Kernel kernel, 
   ZELM_DECLARE(UNIT_KERNEL, SIG, UNIT, T);                                                                             \
   ZELM_DECLARE(ANY_KERNEL, SIG, ANY, T);                                                                               \
   ZELM_DECLARE(FRONT, SIG, ANY, T);                                                                                    \
-  extern "C" ZELM_EXPORT ZelStatus FUNCTION(SIG(PARAM, T)) {                                                           \
+  extern "C" ZelStatus FUNCTION(SIG(PARAM, T)) {                                                                       \
     return zelm::strideFirst(zelm::ORDER{}, zelm::ESTIMATE{}, zelm::UNIT_FORKS, zelm::ANY_FORKS, UNIT_KERNEL,          \
                              ANY_KERNEL, FRONT, SIG(ARG, T));                                                          \
   }
@@ -191,7 +193,7 @@ ZELM_INLINE ZelStatus arrayPointer(Tests, Estimate, Forks forks, Kernel kernel, 
   ZELM_DECLARE(UNIT_KERNEL, SIG, UNIT, T);                                                                             \
   ZELM_DECLARE(ANY_KERNEL, SIG, ANY, T);                                                                               \
   ZELM_DECLARE(FRONT, SIG, ANY, T);                                                                                    \
-  extern "C" ZELM_EXPORT ZelStatus FUNCTION(SIG(PARAM, T)) {                                                           \
+  extern "C" ZelStatus FUNCTION(SIG(PARAM, T)) {                                                                       \
     return zelm::estimateFirst(zelm::ORDER{}, zelm::ESTIMATE{}, zelm::FORKS, UNIT_KERNEL, ANY_KERNEL, FRONT,           \
                                SIG(ARG, T));                                                                           \
   }
@@ -200,6 +202,6 @@ ZELM_INLINE ZelStatus arrayPointer(Tests, Estimate, Forks forks, Kernel kernel, 
 #define ARRAY_POINTER(FUNCTION, SIG, T, ORDER, ESTIMATE, FORKS, KERNEL, FRONT)                                         \
   ZELM_DECLARE(KERNEL, SIG, ANY, T);                                                                                   \
   ZELM_DECLARE(FRONT, SIG, ANY, T);                                                                                    \
-  extern "C" ZELM_EXPORT ZelStatus FUNCTION(SIG(PARAM, T)) {                                                           \
+  extern "C" ZelStatus FUNCTION(SIG(PARAM, T)) {                                                                       \
     return zelm::arrayPointer(zelm::ORDER{}, zelm::ESTIMATE{}, zelm::FORKS, KERNEL, FRONT, SIG(ARG, T));               \
   }

@@ -74,13 +74,11 @@ template <class Statuses, class Kernel, class... A> inline ZelStatus frontPointe
   ZELM_DECLARE(UNIT_KERNEL, SIG, UNIT, T);                                                                             \
   ZELM_DECLARE(ANY_KERNEL, SIG, ANY, T);                                                                               \
   extern "C" ZelStatus FRONT_NAME(SIG(ANY, T)) {                                                                       \
-    ZELM_ENTER(FRONT_NAME);                                                                                            \
     return zelm::front<zelm::STATUSES>(UNIT_KERNEL, ANY_KERNEL, SIG(NAME, T));                                         \
   }
 
 #define FRONT_POINTER(FRONT_NAME, SIG, T, STATUSES, KERNEL)                                                            \
   ZELM_DECLARE(KERNEL, SIG, ANY, T);                                                                                   \
   extern "C" ZelStatus FRONT_NAME(SIG(ANY, T)) {                                                                       \
-    ZELM_ENTER(FRONT_NAME);                                                                                            \
     return zelm::frontPointer<zelm::STATUSES>(KERNEL, SIG(NAME, T));                                                   \
   }

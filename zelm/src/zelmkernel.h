@@ -1,17 +1,10 @@
-// Rows of kernels, and the entry report of the test builds.
+// Rows of kernels.
 #pragma once
 
 #include "zelmsignature.h"
 
 extern "C" int32_t ownGetNumThreads();
 extern "C" void zelGetMaxCacheSizeB(int32_t* bytes);
-
-#ifdef ZELM_COUNT_ENTRIES
-extern "C" void zelmtestEntered(const char* name);
-#  define ZELM_ENTER(NAME) zelmtestEntered(#  NAME)
-#else
-#  define ZELM_ENTER(NAME) static_cast<void>(0)
-#endif
 
 namespace zelm {
 
@@ -44,7 +37,6 @@ template <class Body, class... A> ZELM_INLINE ZelStatus onCopies(const Body& bod
 // the list of straight-line sizes, stands in the row where the body takes one.
 #define KERNEL(KERNEL_NAME, SIG, V, T, BODY, ...)                                                                      \
   extern "C" ZelStatus KERNEL_NAME(SIG(V, T)) {                                                                        \
-    ZELM_ENTER(KERNEL_NAME);                                                                                           \
     return zelm::onCopies(                                                                                             \
         [](const auto&... a) __attribute__((always_inline)) { return zelm::BODY(zelm::__VA_ARGS__{}, a...); },         \
         SIG(NAME, T));                                                                                                 \
@@ -55,7 +47,6 @@ template <class Body, class... A> ZELM_INLINE ZelStatus onCopies(const Body& bod
 #define KERNEL_PER_OBJECT(KERNEL_NAME, SIG, V, T, SINGLE_SIG, SINGLE_KERNEL)                                           \
   ZELM_DECLARE(SINGLE_KERNEL, SINGLE_SIG, V, T);                                                                       \
   extern "C" ZelStatus KERNEL_NAME(SIG(V, T)) {                                                                        \
-    ZELM_ENTER(KERNEL_NAME);                                                                                           \
     for (int32_t k = 0; k < count; ++k)                                                                                \
       if (const ZelStatus status = SINGLE_KERNEL(SINGLE_SIG(OBJECT, T)); status != zelStatusOk)                        \
         return status;                                                                                                 \

@@ -5,7 +5,11 @@
 
 #include "zelmoperand.h"
 
-#include <immintrin.h>
+#ifdef __AVX2__
+#  include <immintrin.h>
+#else
+#  include <emmintrin.h> // a tenth of the other one's text
+#endif
 
 // Before a loop over the elements of a tile: unrolled completely, and early enough for the tile to live in registers.
 #ifdef __clang__
@@ -55,7 +59,29 @@ ZELM_INLINE void streamLanes(char* address, const Lanes<double, 4>& v) {
 }
 #endif
 
-// Results from this size on are written past the caches.
+template <bool Stream, class V> ZELM_INLINE void putLanes(char* address, const V& v) {
+  if constexpr (Stream)
+    streamLanes(address, v);
+  else
+    storeLanes(address, v);
+}
+
+// Elements until an address is a multiple of the vector's size; -1 if it never is.
+template <class T> ZELM_INLINE int64_t elementsToAlignment(const char* address) {
+  const auto beyond = reinterpret_cast<std::uintptr_t>(address) % vectorBytes;
+  if (beyond % sizeof(T) != 0)
+    return -1;
+  return beyond == 0 ? 0 : static_cast<int64_t>((vectorBytes - beyond) / sizeof(T));
+}
+
+// Results from this size on are worth writing past the caches, unless they take the place of a source.
 constexpr int64_t streamingBytes = int64_t{48} << 20;
+
+// Whether n elements at dst, made of `sources`, are written past the caches.
+template <class T, class... Sources>
+ZELM_INLINE bool isStreamed(const char* dst, int64_t n, const Sources*... sources) {
+  return n * static_cast<int64_t>(sizeof(T)) >= streamingBytes && elementsToAlignment<T>(dst) >= 0 &&
+         ((dst != sources) && ...);
+}
 
 } // namespace zelm

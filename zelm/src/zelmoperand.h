@@ -19,7 +19,6 @@
 #endif
 
 #define ZELM_INLINE inline __attribute__((always_inline))
-#define ZELM_EXPORT __attribute__((visibility("default")))
 
 namespace zelm {
 
