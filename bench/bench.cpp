@@ -182,6 +182,9 @@ private:
   std::vector<std::pair<char*, std::size_t>> ranges;
 };
 
+// Whether contenders of any case disagreed: the program fails then.
+bool disagreed = false;
+
 bool agree(const std::vector<double>& a, const std::vector<double>& b, double tolerance) {
   for (std::size_t i = 0; i < a.size(); ++i)
     if (!(std::fabs(a[i] - b[i]) <= tolerance * std::max(1.0, std::fabs(a[i]))))
@@ -321,6 +324,7 @@ void run(benchmark::State& state, const Case& entry, int count) {
 
   const Block block = place(entry, count);
   if (const std::string who = disagreeing(entry, contenders, block); !who.empty()) {
+    disagreed = true;
     state.SkipWithError((who + " gives other results").c_str());
     return;
   }
@@ -457,5 +461,5 @@ int main(int argc, char** argv) {
   bench::LineReporter lines;
   benchmark::RunSpecifiedBenchmarks(ownFormat ? &lines : nullptr);
   benchmark::Shutdown();
-  return EXIT_SUCCESS;
+  return bench::disagreed ? EXIT_FAILURE : EXIT_SUCCESS;
 }

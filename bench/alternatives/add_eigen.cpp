@@ -55,11 +55,13 @@ using bench::Role;
 // clang-format off
 const bench::Row rows[] = {
     SIZES("mama", "32f", mama, float),
+#ifndef BENCH_FEW
     SIZES("mama", "64f", mama, double),
     SIZES("mam",  "32f", mam,  float),
     SIZES("mam",  "64f", mam,  double),
     SIZES("tam",  "32f", tam,  float),
     SIZES("tam",  "64f", tam,  double),
+#endif
 };
 // clang-format on
 

@@ -25,6 +25,7 @@ using bench::Role;
 // clang-format off
 const bench::Row rows[] = {
     {"LU/ma/32f/3", "eigen", Role::alternative, repeat<solve<float, 3>>},
+#ifndef BENCH_FEW
     {"LU/ma/32f/4", "eigen", Role::alternative, repeat<solve<float, 4>>},
     {"LU/ma/32f/5", "eigen", Role::alternative, repeat<solve<float, 5>>},
     {"LU/ma/32f/6", "eigen", Role::alternative, repeat<solve<float, 6>>},
@@ -32,6 +33,7 @@ const bench::Row rows[] = {
     {"LU/ma/64f/4", "eigen", Role::alternative, repeat<solve<double, 4>>},
     {"LU/ma/64f/5", "eigen", Role::alternative, repeat<solve<double, 5>>},
     {"LU/ma/64f/6", "eigen", Role::alternative, repeat<solve<double, 6>>},
+#endif
 };
 // clang-format on
 

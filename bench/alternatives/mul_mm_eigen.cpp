@@ -63,6 +63,7 @@ using bench::Role;
 
 const bench::Row rows[] = {
     SIZES("mama", "32f", mama, float),
+#ifndef BENCH_FEW
     SIZES("mama", "64f", mama, double),
     SIZES("mam",  "32f", mam,  float),
     SIZES("mam",  "64f", mam,  double),
@@ -72,6 +73,7 @@ const bench::Row rows[] = {
     SIZES("tam",  "64f", tam,  double),
     LARGER("mama", "32f", mama, float),
     LARGER("mama", "64f", mama, double),
+#endif
 };
 // clang-format on
 

@@ -66,6 +66,7 @@ using bench::Role;
 // clang-format off
 const bench::Row rows[] = {
     SIZES("mava", "32f", mava, float),
+#ifndef BENCH_FEW
     SIZES("mava", "64f", mava, double),
     SIZES("mav",  "32f", mav,  float),
     SIZES("mav",  "64f", mav,  double),
@@ -73,6 +74,7 @@ const bench::Row rows[] = {
     SIZES("mva",  "64f", mva,  double),
     SIZES("tva",  "32f", tva,  float),
     SIZES("tva",  "64f", tva,  double),
+#endif
 };
 // clang-format on
 

@@ -26,6 +26,7 @@ using bench::Role;
 // clang-format off
 const bench::Row rows[] = {
     {"QR/ma/32f/3x3", "eigen", Role::alternative, repeat<solve<float, 3, 3>>},
+#ifndef BENCH_FEW
     {"QR/ma/32f/4x4", "eigen", Role::alternative, repeat<solve<float, 4, 4>>},
     {"QR/ma/32f/5x5", "eigen", Role::alternative, repeat<solve<float, 5, 5>>},
     {"QR/ma/32f/6x6", "eigen", Role::alternative, repeat<solve<float, 6, 6>>},
@@ -35,6 +36,7 @@ const bench::Row rows[] = {
     {"QR/ma/64f/5x5", "eigen", Role::alternative, repeat<solve<double, 5, 5>>},
     {"QR/ma/64f/6x6", "eigen", Role::alternative, repeat<solve<double, 6, 6>>},
     {"QR/ma/64f/6x3", "eigen", Role::alternative, repeat<solve<double, 3, 6>>},
+#endif
 };
 // clang-format on
 
