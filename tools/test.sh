@@ -42,7 +42,6 @@ if [ -n "$sanitize" ]; then
 fi
 cmake -G Ninja -S "$root" -B "$build" "$@"
 cmake --build "$build" --parallel "$(nproc)"
-# Without optimisation these suites take many minutes; Arguments and Thresholds of the same family run.
-set --
-[ -z "$sanitize" ] || set -- --exclude-regex 'test_mul_mm\.(Results|Threads|ThreadLimit)|ThreadLimit'
-ctest --test-dir "$build" --output-on-failure --parallel "$(nproc)" "$@"
+# Without optimisation all cases take many minutes: one in eleven of each function's, with every layout and size among them.
+[ -z "$sanitize" ] || export ZELM_EVERY=11
+ctest --test-dir "$build" --output-on-failure --parallel "$(nproc)"

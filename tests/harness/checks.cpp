@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
@@ -34,10 +35,12 @@ public:
       spec.plans.assign(member_.operands.size(), spec.plans[0]);
     all_.push_back(std::move(spec));
   }
-  // Runs them up to the first failure. ZELM_REPLAY picks one.
+  // Runs them up to the first failure. ZELM_REPLAY picks one, ZELM_EVERY=n takes one in n, others for other members.
   void run() const {
     static const std::string replay = environment("ZELM_REPLAY");
-    for (const CaseSpec& spec : all_) {
+    static const size_t every = std::max<size_t>(1, std::strtoull(environment("ZELM_EVERY").c_str(), nullptr, 0));
+    for (size_t i = replay.empty() ? seed_ % every : 0; i < all_.size(); i += replay.empty() ? every : 1) {
+      const CaseSpec& spec = all_[i];
       if (!replay.empty() && replay != member_.name + "#" + spec.id)
         continue;
       std::string wrong = runCase(member_, spec);
