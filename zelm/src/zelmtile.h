@@ -74,6 +74,24 @@ ZELM_INLINE void storeTile(const View& x, const Tile<typename View::Element, R, 
 // Sixteen bytes of each object.
 template <class T> constexpr int chunkElements = 16 / static_cast<int>(sizeof(T));
 
+// A square of elements, one row a vector.
+template <class T> ZELM_INLINE void transposeSquare(Lanes<T, 4> (&v)[4]) {
+  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 1, 5);
+  const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 6, 3, 7);
+  const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 1, 5);
+  const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 6, 3, 7);
+  v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
+  v[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
+  v[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
+  v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+}
+template <class T> ZELM_INLINE void transposeSquare(Lanes<T, 2> (&v)[2]) {
+  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 2);
+  const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 3);
+  v[0] = a0;
+  v[1] = a1;
+}
+
 // The first element of each of the objects.
 template <class T, class C> struct ObjectAddresses { C* of[laneCount<T>]; };
 
@@ -115,20 +133,10 @@ ZELM_INLINE void transposeChunk(Lanes<double, 4> (&v)[2]) {
 }
 #endif
 ZELM_INLINE void transposeChunk(Lanes<float, 4> (&v)[4]) {
-  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 1, 5);
-  const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 6, 3, 7);
-  const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 1, 5);
-  const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 6, 3, 7);
-  v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
-  v[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
-  v[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
-  v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+  transposeSquare<float>(v);
 }
 ZELM_INLINE void transposeChunk(Lanes<double, 2> (&v)[2]) {
-  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 2);
-  const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 3);
-  v[0] = a0;
-  v[1] = a1;
+  transposeSquare<double>(v);
 }
 
 // Chunk of each object at `offset` bytes: lanes[e] gets element e of every object. The transposition is its own
