@@ -94,4 +94,58 @@ template <bool Stream, class L> ZELM_INLINE void storeTriples(char* address, con
   }
 }
 
+// The same with the objects of the lanes in an order of their own, which is quicker for vectors of two halves: for what
+// is the same for all objects.
+#ifdef __AVX2__
+// Lane w of p, q or r where Source::of(w) is 0, 1 or 2.
+template <class Source, class V, int... w>
+ZELM_INLINE V chooseLanes(const V& p, const V& q, const V& r, std::integer_sequence<int, w...>) {
+  constexpr int W = sizeof...(w);
+  const V pq = __builtin_shufflevector(p, q, (Source::of(w) == 1 ? w + W : w)...);
+  return __builtin_shufflevector(pq, r, (Source::of(w) == 2 ? w + W : w)...);
+}
+// Lane (w + by) % W as lane w.
+template <int by, class V, int... w> ZELM_INLINE V rotateLanes(const V& v, std::integer_sequence<int, w...>) {
+  return __builtin_shufflevector(v, v, (w + by) % static_cast<int>(sizeof...(w))...);
+}
+
+// W triples without gaps are three vectors. Element c of triple t lies in lane (3 * t + c) % W of one of them, and no
+// two triples share a lane: choosing lanes gives all elements c, those of c = 1 and 2 one and two lanes further on.
+template <int W, int c> struct VectorOfElement {
+  static constexpr int of(int w) { return w % 3 == c ? 0 : (W + w) % 3 == c ? 1 : 2; }
+};
+template <int W, int vector> struct ElementOfVector {
+  static constexpr int of(int w) { return (vector * W + w) % 3; }
+};
+
+// Triple t of all three in lane 3 * t % W.
+template <class T> ZELM_INLINE Tile<Lanes<T>, 1, 3> loadTurnedTriples(const char* x) {
+  constexpr int W = laneCount<T>;
+  const std::make_integer_sequence<int, W> lanes;
+  const auto p = loadLanes<T>(x);
+  const auto q = loadLanes<T>(x + vectorBytes);
+  const auto r = loadLanes<T>(x + 2 * vectorBytes);
+  return {{chooseLanes<VectorOfElement<W, 0>>(p, q, r, lanes),
+           rotateLanes<1>(chooseLanes<VectorOfElement<W, 1>>(p, q, r, lanes), lanes),
+           rotateLanes<2>(chooseLanes<VectorOfElement<W, 2>>(p, q, r, lanes), lanes)}};
+}
+template <class T, bool Stream = false> ZELM_INLINE void storeTurnedTriples(char* x, const Tile<Lanes<T>, 1, 3>& tile) {
+  constexpr int W = laneCount<T>;
+  const std::make_integer_sequence<int, W> lanes;
+  const auto first = tile(0, 0);
+  const auto second = rotateLanes<W - 1>(tile(0, 1), lanes);
+  const auto third = rotateLanes<W - 2>(tile(0, 2), lanes);
+  storeOne<Stream>(x, chooseLanes<ElementOfVector<W, 0>>(first, second, third, lanes));
+  storeOne<Stream>(x + vectorBytes, chooseLanes<ElementOfVector<W, 1>>(first, second, third, lanes));
+  storeOne<Stream>(x + 2 * vectorBytes, chooseLanes<ElementOfVector<W, 2>>(first, second, third, lanes));
+}
+#else
+template <class T> ZELM_INLINE Tile<Lanes<T>, 1, 3> loadTurnedTriples(const char* x) {
+  return loadTriples<T>(x);
+}
+template <class T, bool Stream = false> ZELM_INLINE void storeTurnedTriples(char* x, const Tile<Lanes<T>, 1, 3>& tile) {
+  storeTriples<Stream>(x, tile);
+}
+#endif
+
 } // namespace zelm
