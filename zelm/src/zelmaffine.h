@@ -42,6 +42,12 @@ template <class View> ZELM_INLINE bool dividePoint(const Homogeneous<float>& h, 
   return good;
 }
 
+// Without the signs.
+template <class L> ZELM_INLINE L magnitudes(const L& w) {
+  using Bits = decltype(w > w);
+  return reinterpret_cast<L>(reinterpret_cast<Bits>(w) & 0x7fffffff);
+}
+
 template <class Mask> ZELM_INLINE bool allLanes(const Mask& mask) {
 #ifdef __AVX2__
   return _mm256_movemask_ps(reinterpret_cast<__m256>(mask)) == 0xff;
@@ -53,7 +59,7 @@ template <class Mask> ZELM_INLINE bool allLanes(const Mask& mask) {
 // The same on lanes. Where a point of the block fails, results are selected lane by lane.
 template <class L> ZELM_INLINE Tile<L, 1, 3> dividePoints(const Homogeneous<L>& h, bool& failed) {
   const L w = h.y[3];
-  const auto good = (w > splat<L>(smallestW)) | (w < splat<L>(-smallestW));
+  const auto good = magnitudes(w) > splat<L>(smallestW);
   const L reciprocal = splat<L>(1.0f) / w;
   Tile<L, 1, 3> point;
   ZELM_UNROLL
@@ -82,8 +88,8 @@ inline int64_t transformPacked(const Tile<float, 4, 4>& matrix, const char* src,
   bool failed = false;
   int64_t k = first;
   for (; k + width <= end; k += width) {
-    const Tile<L, 1, 3> x = loadTriples<float>(src + k * pointBytes);
-    storeTriples<Stream>(dst + k * pointBytes, dividePoints(transformPoint(a, x), failed));
+    const Tile<L, 1, 3> x = loadTurnedTriples<float>(src + k * pointBytes);
+    storeTurnedTriples<float, Stream>(dst + k * pointBytes, dividePoints(transformPoint(a, x), failed));
   }
   anyFailed |= failed;
   return k;
