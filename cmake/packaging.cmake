@@ -35,10 +35,16 @@ install(FILES ${PROJECT_BINARY_DIR}/zelm-config.cmake ${PROJECT_BINARY_DIR}/zelm
         DESTINATION ${ZELM_CMAKE_DIR} COMPONENT development)
 
 # pkg-config: written when the prefix is known, which "cmake --install --prefix" and the packages choose
+foreach(directory LIBDIR INCLUDEDIR)
+  set(ZELM_PC_${directory} "${CMAKE_INSTALL_${directory}}")
+  if(NOT IS_ABSOLUTE "${ZELM_PC_${directory}}")
+    string(PREPEND ZELM_PC_${directory} "\\\${prefix}/")
+  endif()
+endforeach()
 install(CODE "
   set(ZELM_PREFIX \"\${CMAKE_INSTALL_PREFIX}\")
-  set(ZELM_LIBDIR \"${CMAKE_INSTALL_LIBDIR}\")
-  set(ZELM_INCLUDEDIR \"${CMAKE_INSTALL_INCLUDEDIR}\")
+  set(ZELM_LIBDIR \"${ZELM_PC_LIBDIR}\")
+  set(ZELM_INCLUDEDIR \"${ZELM_PC_INCLUDEDIR}\")
   set(ZELM_VERSION \"${PROJECT_VERSION}\")
   set(ZELM_DESCRIPTION \"${PROJECT_DESCRIPTION}\")
   set(ZELM_OPENMP_RUNTIME \"${ZELM_OPENMP_RUNTIME}\")

@@ -18,7 +18,8 @@ template <class T> constexpr int hugeCount(int each) {
   return (100 << 20) / (each * static_cast<int>(sizeof(T))) / 32 * 32 + 5;
 }
 
-// call(dst) writes what is expected, with dst at every offset from a vector, and nothing beside it.
+// call(dst) writes what is expected and nothing beside it, with dst on a multiple of a vector and one and three
+// elements behind it.
 template <class T, class Call> void expectHuge(const std::vector<T>& expected, Call call) {
   constexpr size_t vector = 32 / sizeof(T);
   const size_t n = expected.size();
