@@ -150,19 +150,39 @@ template <class T> auto oneMatrix() {
   };
 }
 
-template <class T> void addCall(std::vector<Contender> single, const std::vector<Contender>& arrayOfOne) {
-  single.insert(single.end(), arrayOfOne.begin(), arrayOfOne.end());
-  Case entry{caseName<T>("call", 3), sizeof(T), {array(9), array(9), results(9)}, std::move(single)};
-  entry.figures = {{"mm", "lib", "bare", true}, {"mama", "mama", "bare", true}};
+template <class T> auto oneMatrixByLists(std::shared_ptr<Lists> lists) {
+  return [=](auto function, const Block&) {
+    function(sourceList<T>(lists->neighbours[0]), 0, sourceList<T>(lists->neighbours[1]), 0,
+             resultList<T>(lists->neighbours[2]), 0, 3, 3);
+  };
+}
+
+template <class T> void addCall(std::shared_ptr<Lists> lists, const std::vector<std::vector<Contender>>& calls) {
+  Case entry{caseName<T>("call", 3), sizeof(T), {array(9), array(9), results(9)}, {}};
+  for (const std::vector<Contender>& call : calls)
+    entry.contenders.insert(entry.contenders.end(), call.begin(), call.end());
+  entry.figures = {{"mm", "lib", "bare", true},
+                   {"mama", "mama", "bare", true},
+                   {"mm_P", "mm_P", "bare", true},
+                   {"tm", "tm", "bare", true}};
+  entry.prepare = [lists](const Block& b) { makeLists<T>(*lists, b, 9, true); };
   add(entry, "one", 1);
 }
 
+// clang-format off
 void addCalls() {
-  addCall<Zel32f>(BENCH_LIBRARY(zelmAdd_mm_32f, oneMatrix<Zel32f>()),
-                  BENCH_LIBRARY(zelmAdd_mama_32f, arrayByArray<Zel32f>(3), "mama", Role::other));
-  addCall<Zel64f>(BENCH_LIBRARY(zelmAdd_mm_64f, oneMatrix<Zel64f>()),
-                  BENCH_LIBRARY(zelmAdd_mama_64f, arrayByArray<Zel64f>(3), "mama", Role::other));
+  const auto lists32 = std::make_shared<Lists>();
+  const auto lists64 = std::make_shared<Lists>();
+  addCall<Zel32f>(lists32, {BENCH_LIBRARY(zelmAdd_mm_32f,   oneMatrix<Zel32f>()),
+                            BENCH_LIBRARY(zelmAdd_mama_32f, arrayByArray<Zel32f>(3),           "mama", Role::other),
+                            BENCH_LIBRARY(zelmAdd_mm_32f_P, oneMatrixByLists<Zel32f>(lists32), "mm_P", Role::other),
+                            BENCH_LIBRARY(zelmAdd_tm_32f,   oneMatrix<Zel32f>(),               "tm",   Role::other, 1)});
+  addCall<Zel64f>(lists64, {BENCH_LIBRARY(zelmAdd_mm_64f,   oneMatrix<Zel64f>()),
+                            BENCH_LIBRARY(zelmAdd_mama_64f, arrayByArray<Zel64f>(3),           "mama", Role::other),
+                            BENCH_LIBRARY(zelmAdd_mm_64f_P, oneMatrixByLists<Zel64f>(lists64), "mm_P", Role::other),
+                            BENCH_LIBRARY(zelmAdd_tm_64f,   oneMatrix<Zel64f>(),               "tm",   Role::other, 1)});
 }
+// clang-format on
 
 // ---- two threads
 
