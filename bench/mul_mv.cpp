@@ -1,5 +1,5 @@
-// Products of matrices and vectors: packed batches in the standard layout, the pointer layout on neighbours, and the
-// homogeneous transform of points.
+// Products of matrices and vectors, with and without a vector added, and scaling: packed batches in the standard
+// layout, the pointer layout on neighbours, and the homogeneous transform of points.
 #include "bench.h"
 
 #include <zelm.h>
@@ -12,8 +12,11 @@ namespace {
 template <class T> constexpr const char* typeName = sizeof(T) == 4 ? "32f" : "64f";
 
 template <class T> std::string caseName(const char* form, int size) {
-  return std::string("Mul/") + form + "/" + typeName<T> + "/" + std::to_string(size);
+  return std::string(form) + "/" + typeName<T> + "/" + std::to_string(size);
 }
+
+// Fused alternatives round less often.
+template <class T> constexpr double tolerance = sizeof(T) == 4 ? 1e-5 : 1e-13;
 
 // ---- standard layout, packed
 
@@ -43,21 +46,70 @@ Case packed(const char* form, int n, bool isFirstArray, bool isSecondArray, std:
              sizeof(T),
              {isFirstArray ? array(n * n) : single(n * n), isSecondArray ? array(n) : single(n), results(n)},
              std::move(contenders)};
-  // Fused alternatives round less often.
-  entry.tolerance = sizeof(T) == 4 ? 1e-5 : 1e-13;
+  entry.tolerance = tolerance<T>;
   return entry;
 }
 
 // clang-format off
 void addPacked(int n) {
-  add(packed<Zel32f>("mava", n, true,  true,  BENCH_LIBRARY(zelmMul_mava_32f, arrayByArray<Zel32f>(n))));
-  add(packed<Zel64f>("mava", n, true,  true,  BENCH_LIBRARY(zelmMul_mava_64f, arrayByArray<Zel64f>(n))));
-  add(packed<Zel32f>("mav",  n, true,  false, BENCH_LIBRARY(zelmMul_mav_32f,  arrayBySingle<Zel32f>(n))));
-  add(packed<Zel64f>("mav",  n, true,  false, BENCH_LIBRARY(zelmMul_mav_64f,  arrayBySingle<Zel64f>(n))));
-  add(packed<Zel32f>("mva",  n, false, true,  BENCH_LIBRARY(zelmMul_mva_32f,  singleByArray<Zel32f>(n))));
-  add(packed<Zel64f>("mva",  n, false, true,  BENCH_LIBRARY(zelmMul_mva_64f,  singleByArray<Zel64f>(n))));
-  add(packed<Zel32f>("tva",  n, false, true,  BENCH_LIBRARY(zelmMul_tva_32f,  singleByArray<Zel32f>(n))));
-  add(packed<Zel64f>("tva",  n, false, true,  BENCH_LIBRARY(zelmMul_tva_64f,  singleByArray<Zel64f>(n))));
+  add(packed<Zel32f>("Mul/mava", n, true,  true,  BENCH_LIBRARY(zelmMul_mava_32f, arrayByArray<Zel32f>(n))));
+  add(packed<Zel64f>("Mul/mava", n, true,  true,  BENCH_LIBRARY(zelmMul_mava_64f, arrayByArray<Zel64f>(n))));
+  add(packed<Zel32f>("Mul/mav",  n, true,  false, BENCH_LIBRARY(zelmMul_mav_32f,  arrayBySingle<Zel32f>(n))));
+  add(packed<Zel64f>("Mul/mav",  n, true,  false, BENCH_LIBRARY(zelmMul_mav_64f,  arrayBySingle<Zel64f>(n))));
+  add(packed<Zel32f>("Mul/mva",  n, false, true,  BENCH_LIBRARY(zelmMul_mva_32f,  singleByArray<Zel32f>(n))));
+  add(packed<Zel64f>("Mul/mva",  n, false, true,  BENCH_LIBRARY(zelmMul_mva_64f,  singleByArray<Zel64f>(n))));
+  add(packed<Zel32f>("Mul/tva",  n, false, true,  BENCH_LIBRARY(zelmMul_tva_32f,  singleByArray<Zel32f>(n))));
+  add(packed<Zel64f>("Mul/tva",  n, false, true,  BENCH_LIBRARY(zelmMul_tva_64f,  singleByArray<Zel64f>(n))));
+}
+// clang-format on
+
+template <class T> auto singleByArrayPlusArray(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), n * e, e, n, n, source<T>(b, 1), n * e, e, n, source<T>(b, 2), n * e, e, n,
+             result<T>(b, 3), n * e, e, b.count);
+  };
+}
+
+template <class T> Case plusArray(int n, std::vector<Contender> contenders) {
+  Case entry{
+      caseName<T>("Gaxpy/mva", n), sizeof(T), {single(n * n), array(n), array(n), results(n)}, std::move(contenders)};
+  entry.tolerance = tolerance<T>;
+  return entry;
+}
+
+template <class T> auto matricesByConstant(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), n * n * e, n * e, e, *source<T>(b, 1), result<T>(b, 2), n * n * e, n * e, e, n, n,
+             b.count);
+  };
+}
+template <class T> auto vectorsByConstant(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), n * e, e, *source<T>(b, 1), result<T>(b, 2), n * e, e, n, b.count);
+  };
+}
+
+template <class T> Case byConstant(const char* form, int n, int elements, std::vector<Contender> contenders) {
+  Case entry{caseName<T>(form, n),
+             sizeof(T),
+             {array(elements), single(1), results(elements)},
+             std::move(contenders),
+             std::string("contiguous/1/") + typeName<T>};
+  entry.contiguousOperands = {0, 0, 2};
+  return entry;
+}
+
+// clang-format off
+void addPlusArrayAndByConstant(int n) {
+  add(plusArray<Zel32f>(n, BENCH_LIBRARY(zelmGaxpy_mva_32f, singleByArrayPlusArray<Zel32f>(n))));
+  add(plusArray<Zel64f>(n, BENCH_LIBRARY(zelmGaxpy_mva_64f, singleByArrayPlusArray<Zel64f>(n))));
+  add(byConstant<Zel32f>("Mul/mac", n, n * n, BENCH_LIBRARY(zelmMul_mac_32f, matricesByConstant<Zel32f>(n))));
+  add(byConstant<Zel64f>("Mul/mac", n, n * n, BENCH_LIBRARY(zelmMul_mac_64f, matricesByConstant<Zel64f>(n))));
+  add(byConstant<Zel32f>("Mul/vac", n, n,     BENCH_LIBRARY(zelmMul_vac_32f, vectorsByConstant<Zel32f>(n))));
+  add(byConstant<Zel64f>("Mul/vac", n, n,     BENCH_LIBRARY(zelmMul_vac_64f, vectorsByConstant<Zel64f>(n))));
 }
 // clang-format on
 
@@ -89,7 +141,7 @@ template <class T> auto byLists(int n, std::shared_ptr<Lists> lists) {
 
 template <class T, class Neighbours, class Packed> void addPointer(int n, Neighbours neighbours, Packed standard) {
   const auto lists = std::make_shared<Lists>();
-  Case entry = packed<T>("mava_P", n, true, true, neighbours(byLists<T>(n, lists)));
+  Case entry = packed<T>("Mul/mava_P", n, true, true, neighbours(byLists<T>(n, lists)));
   for (Contender& contender : standard())
     entry.contenders.push_back(std::move(contender));
   entry.figures = {{"packed", "lib", "packed"}};
@@ -128,6 +180,8 @@ void addPoints() {
 void registerMulVectors() {
   for (int n = 3; n <= 6; ++n)
     addPacked(n);
+  for (int n = 3; n <= 6; ++n)
+    addPlusArrayAndByConstant(n);
   for (int n = 3; n <= 6; ++n)
     addPointers(n);
   addPoints();

@@ -1,4 +1,5 @@
-// Products of packed matrices and vectors by Eigen: fixed-size maps, aligned where every object of the batch is.
+// Products of packed matrices and vectors by Eigen, with and without a vector added, and scaling: fixed-size maps,
+// aligned where every object of the batch is.
 #include "alternative.h"
 
 #include <Eigen/Core>
@@ -53,27 +54,57 @@ template <class T, int N> void tva(const bench::Block& b) {
   single<T, N, true>(b);
 }
 
+template <class T, int N> void gaxpy(const bench::Block& b) {
+  const Eigen::Matrix<T, N, N, Eigen::ColMajor> m = Matrices<T, N>(bench::source<T>(b, 0));
+  const T* x = bench::source<T>(b, 1);
+  const T* z = bench::source<T>(b, 2);
+  T* y = bench::result<T>(b, 3);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Results<T, N>(y + k * N).noalias() = m * Vectors<T, N>(x + k * N) + Vectors<T, N>(z + k * N);
+}
+
+template <class T, int N> void mac(const bench::Block& b) {
+  const T* x = bench::source<T>(b, 0);
+  const T factor = *bench::source<T>(b, 1);
+  T* y = bench::result<T>(b, 2);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Eigen::Map<Matrix<T, N>, alignment<T, N * N>>(y + k * N * N) = Matrices<T, N>(x + k * N * N) * factor;
+}
+template <class T, int N> void vac(const bench::Block& b) {
+  const T* x = bench::source<T>(b, 0);
+  const T factor = *bench::source<T>(b, 1);
+  T* y = bench::result<T>(b, 2);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Results<T, N>(y + k * N) = Vectors<T, N>(x + k * N) * factor;
+}
+
 using bench::repeat;
 using bench::Role;
 
 #define SIZES(form, type, pass, T)                                                                                     \
-  {"Mul/" form "/" type "/3", "eigen", Role::alternative, repeat<pass<T, 3>>},                                         \
-      {"Mul/" form "/" type "/4", "eigen", Role::alternative, repeat<pass<T, 4>>},                                     \
-      {"Mul/" form "/" type "/5", "eigen", Role::alternative, repeat<pass<T, 5>>}, {                                   \
-    "Mul/" form "/" type "/6", "eigen", Role::alternative, repeat<pass<T, 6>>                                          \
+  {form "/" type "/3", "eigen", Role::alternative, repeat<pass<T, 3>>},                                                \
+      {form "/" type "/4", "eigen", Role::alternative, repeat<pass<T, 4>>},                                            \
+      {form "/" type "/5", "eigen", Role::alternative, repeat<pass<T, 5>>}, {                                          \
+    form "/" type "/6", "eigen", Role::alternative, repeat<pass<T, 6>>                                                 \
   }
 
 // clang-format off
 const bench::Row rows[] = {
-    SIZES("mava", "32f", mava, float),
+    SIZES("Mul/mava",  "32f", mava, float),
 #ifndef BENCH_FEW
-    SIZES("mava", "64f", mava, double),
-    SIZES("mav",  "32f", mav,  float),
-    SIZES("mav",  "64f", mav,  double),
-    SIZES("mva",  "32f", mva,  float),
-    SIZES("mva",  "64f", mva,  double),
-    SIZES("tva",  "32f", tva,  float),
-    SIZES("tva",  "64f", tva,  double),
+    SIZES("Mul/mava",  "64f", mava, double),
+    SIZES("Mul/mav",   "32f", mav,  float),
+    SIZES("Mul/mav",   "64f", mav,  double),
+    SIZES("Mul/mva",   "32f", mva,  float),
+    SIZES("Mul/mva",   "64f", mva,  double),
+    SIZES("Mul/tva",   "32f", tva,  float),
+    SIZES("Mul/tva",   "64f", tva,  double),
+    SIZES("Mul/mac",   "32f", mac,  float),
+    SIZES("Mul/mac",   "64f", mac,  double),
+    SIZES("Mul/vac",   "32f", vac,  float),
+    SIZES("Mul/vac",   "64f", vac,  double),
+    SIZES("Gaxpy/mva", "32f", gaxpy, float),
+    SIZES("Gaxpy/mva", "64f", gaxpy, double),
 #endif
 };
 // clang-format on
