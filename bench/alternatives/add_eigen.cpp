@@ -1,22 +1,14 @@
-// Sums of packed matrices by Eigen: fixed-size maps over the batch, aligned where every matrix of it is.
+// Sums of packed matrices by Eigen: fixed-size maps over the batch.
 #include "alternative.h"
-
-#include <Eigen/Core>
+#include "alternatives/eigen_maps.h"
 
 #include <iterator>
 
 namespace {
 
-template <class T, int N> using Matrix = Eigen::Matrix<T, N, N, Eigen::RowMajor>;
-
-template <class T, int N>
-constexpr int alignment = N* N * sizeof(T) % 32 == 0   ? Eigen::Aligned32
-                          : N* N * sizeof(T) % 16 == 0 ? Eigen::Aligned16
-                                                       : Eigen::Unaligned;
-
-template <class T, int N> using In = Eigen::Map<const Matrix<T, N>, alignment<T, N>>;
-
-template <class T, int N> using Out = Eigen::Map<Matrix<T, N>, alignment<T, N>>;
+using bench::In;
+using bench::Matrix;
+using bench::Out;
 
 template <class T, int N> void mama(const bench::Block& b) {
   const T* src1 = bench::source<T>(b, 0);

@@ -1,5 +1,6 @@
 // Solution of systems with a QR-decomposed matrix.
 #include "systems.h"
+#include "tall.h"
 
 #include "../harness/job.h"
 #include "../harness/paths.h"
@@ -48,20 +49,6 @@ uint32_t matrixEach(const Sizes& s) {
   return (s["width"] * (s["height"] + 1) + s["height"]) * s["count"];
 }
 
-std::vector<Sizes> shapes(const Member&) {
-  constexpr int pairs[][2] = {{1, 1},   {2, 2},   {3, 3},  {4, 4},   {5, 5},  {6, 6}, {7, 7},  {8, 8},
-                              {11, 11}, {12, 12}, {1, 2},  {1, 5},   {3, 4},  {3, 5}, {3, 6},  {2, 6},
-                              {4, 6},   {5, 6},   {3, 7},  {6, 7},   {6, 8},  {4, 8}, {4, 17}, {6, 12},
-                              {1, 128}, {1, 129}, {8, 16}, {10, 13}, {20, 25}};
-  std::vector<Sizes> all;
-  for (const auto& [width, height] : pairs) {
-    all.emplace_back();
-    all.back().set("width", width);
-    all.back().set("height", height);
-  }
-  return all;
-}
-
 Family family() {
   Family f;
   f.name = "QR back substitution";
@@ -80,7 +67,7 @@ Family family() {
       return Shape{0, 0};
     return Shape{1, s.get(operand == "dst" ? "width" : "height")};
   };
-  f.shapes = shapes;
+  f.shapes = tallShapes;
   // Reflections of moderate size, so that large systems stay finite.
   f.fill = bothFill([](auto& job, Rng& rng, int kind) {
     auto src1 = job["src1"];

@@ -1,4 +1,6 @@
 // QR decomposition.
+#include "tall.h"
+
 #include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
@@ -55,21 +57,6 @@ template <class T> void fill(Typed<T>& job, Rng& rng, int kind) {
   }
 }
 
-std::vector<Sizes> shapes(const Member&) {
-  constexpr int pairs[][2] = {{1, 1},   {2, 2},   {3, 3},   {4, 4},  {5, 5},   {6, 6},  {7, 7}, {8, 8},
-                              {11, 11}, {12, 12}, {1, 2},   {1, 5},  {3, 4},   {3, 5},  {3, 6}, {2, 6},
-                              {4, 6},   {5, 6},   {3, 7},   {6, 7},  {6, 8},   {4, 8},  {6, 3}, {4, 17},
-                              {6, 12},  {1, 128}, {1, 129}, {8, 16}, {10, 13}, {20, 25}};
-  std::vector<Sizes> all;
-  for (auto [width, height] : pairs)
-    if (width <= height) {
-      all.emplace_back();
-      all.back().set("width", width);
-      all.back().set("height", height);
-    }
-  return all;
-}
-
 Family family() {
   Family f;
   f.name = "QR decomposition";
@@ -84,7 +71,7 @@ Family family() {
   f.shape = [](const Member&, const std::string& operand, const Sizes& s) {
     return operand == "buffer" ? Shape{1, s.get("height")} : Shape{0, 0};
   };
-  f.shapes = shapes;
+  f.shapes = tallShapes;
   f.dataKinds = {0, 10, 10, 10, 1, 3};
   f.fill = bothFill([](auto& job, Rng& rng, int kind) { fill(job, rng, kind); });
   f.reference = both([](auto& job) {
