@@ -28,6 +28,9 @@
 #define QR_SOLVE_MAVA_P(V, T)    QR_SOLVE(V, T, MA_P, VA_P, VA_P), V##_COUNT
 // clang-format on
 
+// A lambda that is a function of its own: called from several places, or seldom.
+#define ZELM_CALL __attribute__((noinline))
+
 namespace zelm {
 
 // The agreement of the sizes, which follow the operands: at least as many rows as columns.
@@ -228,22 +231,36 @@ template <class V> __attribute__((noinline)) void qrDenominators(QrScratch<V>& s
     scratch.denominator[k] = qrDenominator<V>(a, k, height);
 }
 
-// The right-hand sides stand in the scratch vectors, and so do the solutions.
-// Each: every lane has its own matrix; otherwise low has the one matrix and its
-// denominators.
-template <bool Each, class V>
-__attribute__((noinline)) void qrSolveLanes(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
+// The right-hand sides stand in the scratch vectors, and so do the solutions. Every lane has its own matrix; of the
+// shapes with straight-line code only 6 by 6 comes here.
+template <class V>
+__attribute__((noinline)) void qrSolveEach(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
+  using L = Pair<V>;
+  const auto solve = [&](auto w, auto h) ZELM_BODY {
+    const Rectangle<L, decltype(w)> a{{low.element, high.element}, w};
+    const Column<L> c{low.vector, high.vector};
+    qrSolve<L>(
+        a, [&](auto k) ZELM_BODY { return qrDenominator<L>(a, k, h); }, c, c, w, h);
+  };
+  if (width == 6 && height == 6)
+    solve(Fixed<6>{}, Fixed<6>{});
+  else
+    solve(width, height);
+}
+
+// The one matrix and its denominators are in low.
+template <class V>
+__attribute__((noinline)) void qrSolveOne(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
   using L = Pair<V>;
   forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
-    const Rectangle<L, decltype(w)> a{{low.element, Each ? high.element : low.element}, w};
+    const Rectangle<L, decltype(w)> a{{low.element, low.element}, w};
     const Column<L> c{low.vector, high.vector};
-    const auto denominator = [&](auto k) ZELM_BODY {
-      if constexpr (Each)
-        return qrDenominator<L>(a, k, h);
-      else
-        return L{low.denominator[k], low.denominator[k]};
-    };
-    qrSolve<L>(a, denominator, c, c, w, h);
+    qrSolve<L>(
+        a,
+        [&](auto k) ZELM_BODY {
+          return L{low.denominator[k], low.denominator[k]};
+        },
+        c, c, w, h);
   });
 }
 
@@ -297,16 +314,21 @@ ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& bu
   return qrFactor<T>(src.object(0, width), buffer.pointer, dst.object(0, width), width, height);
 }
 
-// A vector full of 3 by 3 matrices, which fit the registers.
-using Small = Fixed<3>;
-template <class V, class Source, class Result>
-__attribute__((noinline)) bool qrFactorSmall(const Source& src, const Result& dst) {
-  V element[Small::value * Small::value];
-  V vector[Small::value];
-  loadElements(src, element, Small{}, Small{});
-  if (!qrReduce<V>(Rectangle<V, Small>{{element}, {}}, Column<V>{vector}, Small{}, Small{}))
+// A vector full of objects from their places to their places. Against two vectors that go through memory it pays while
+// the matrix fits the registers, and a little further where nothing is transposed.
+template <class Source, class Width, class Height> constexpr bool qrInRegisters = false;
+template <class Source> constexpr bool qrInRegisters<Source, Fixed<3>, Fixed<3>> = true;
+template <class T> constexpr bool qrInRegisters<MatricesP<T>, Fixed<4>, Fixed<4>> = true;
+template <class T> constexpr bool qrInRegisters<MatricesP<T>, Fixed<3>, Fixed<6>> = true;
+
+template <class V, class Source, class Result, class Width, class Height>
+__attribute__((noinline)) bool qrFactorStraight(const Source& src, const Result& dst, Width width, Height height) {
+  V element[width * height];
+  V vector[height];
+  loadElements(src, element, width, height);
+  if (!qrReduce<V>(Rectangle<V, Width>{{element}, width}, Column<V>{vector}, width, height))
     return false;
-  storeElements(dst, element, Small{}, Small{});
+  storeElements(dst, element, width, height);
   return true;
 }
 
@@ -314,35 +336,45 @@ __attribute__((noinline)) bool qrFactorSmall(const Source& src, const Result& ds
 template <class T, class Source, class Result>
 ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
                                 int32_t height, int32_t count) {
-  const auto single = [&](int64_t k) ZELM_BODY {
+  const auto single = [=](int64_t k) ZELM_CALL {
     return qrFactor<T>(src.object(k, width), buffer.pointer, dst.object(k, width), width, height);
   };
-  const bool inLanes = count > 1 && qrFitsLanes(width, height);
   constexpr int W = laneCount<T>;
-  QrScratch<Lanes<T>> scratch[2];
-  auto sources = matrixBlocks(src, width);
-  auto results = matrixBlocks(dst, width);
   const bool neighbours = areNeighbours(src) && areNeighbours(dst);
-  if (width == Small{} && height == Small{})
-    return forBlocks<laneCount<T>, isPointerLayout<Source>>(
+  const auto throughMemory = [=]() ZELM_CALL {
+    const bool inLanes = count > 1 && qrFitsLanes(width, height);
+    QrScratch<Lanes<T>> scratch[2];
+    auto sources = matrixBlocks(src, width);
+    auto results = matrixBlocks(dst, width);
+    return forBlocks<2 * W, isPointerLayout<Source>>(
         count, neighbours,
-        [&](auto block) ZELM_BODY { return qrFactorSmall<Lanes<T>>(sources.at(block), results.at(block)); }, single);
-  return forBlocks<2 * laneCount<T>, isPointerLayout<Source>>(
-      count, neighbours,
-      [&](auto block) ZELM_BODY {
-        if (!inLanes)
-          return false;
-        const auto low = block.template low<W>();
-        const auto high = block.template high<W>();
-        loadRectangle(sources.at(low), scratch[0].element, width, height);
-        loadRectangle(sources.at(high), scratch[1].element, width, height);
-        if (!qrReduceLanes(scratch[0], scratch[1], width, height))
-          return false;
-        storeRectangle(results.at(low), scratch[0].element, width, height);
-        storeRectangle(results.at(high), scratch[1].element, width, height);
-        return true;
-      },
-      single);
+        [&](auto block) ZELM_BODY {
+          if (!inLanes)
+            return false;
+          const auto low = block.template low<W>();
+          const auto high = block.template high<W>();
+          loadRectangle(sources.at(low), scratch[0].element, width, height);
+          loadRectangle(sources.at(high), scratch[1].element, width, height);
+          if (!qrReduceLanes(scratch[0], scratch[1], width, height))
+            return false;
+          storeRectangle(results.at(low), scratch[0].element, width, height);
+          storeRectangle(results.at(high), scratch[1].element, width, height);
+          return true;
+        },
+        single);
+  };
+  return forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
+    if constexpr (qrInRegisters<Source, decltype(w), decltype(h)>) {
+      auto sources = matrixBlocks(src, width);
+      auto results = matrixBlocks(dst, width);
+      return forBlocks<W, isPointerLayout<Source>>(
+          count, neighbours,
+          [&](auto block) ZELM_BODY { return qrFactorStraight<Lanes<T>>(sources.at(block), results.at(block), w, h); },
+          single);
+    } else {
+      return throughMemory();
+    }
+  });
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -374,18 +406,22 @@ ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>&
   return zelStatusOk;
 }
 
-// A vector full of 3 by 3 systems.
-template <class V, class Matrix, class Right, class Result>
-__attribute__((noinline)) void qrSolveSmall(const Matrix& src1, const Right& src2, const Result& dst) {
-  V element[Small::value * Small::value];
-  V vector[Small::value];
-  loadElements(src1, element, Small{}, Small{});
-  src2.load(0, 0, Small{}, vector);
-  const Rectangle<V, Small> a{{element}, {}};
+// A vector full of systems, each with its own matrix. 6 by 6 ones that are transposed are better off in two vectors.
+template <class Matrix, class Width, class Height> constexpr bool qrSolvesStraight = isFixed<Width>&& isFixed<Height>;
+template <class Matrix> constexpr bool qrSolvesStraight<Matrix, Fixed<6>, Fixed<6>> = isPointerLayout<Matrix>;
+
+template <class V, class Matrix, class Right, class Result, class Width, class Height>
+__attribute__((noinline)) void qrSolveStraight(const Matrix& src1, const Right& src2, const Result& dst, Width width,
+                                               Height height) {
+  V element[width * height];
+  V vector[height];
+  loadElements(src1, element, width, height);
+  src2.load(0, 0, height, vector);
+  const Rectangle<V, Width> a{{element}, width};
   const Column<V> c{vector};
   qrSolve<V>(
-      a, [&](auto k) ZELM_BODY { return qrDenominator<V>(a, k, Small{}); }, c, c, Small{}, Small{});
-  dst.store(0, 0, Small{}, vector);
+      a, [&](auto k) ZELM_BODY { return qrDenominator<V>(a, k, height); }, c, c, width, height);
+  dst.store(0, 0, width, vector);
 }
 
 // Batches.
@@ -393,55 +429,67 @@ template <class T, class Matrix, class Right, class Result>
 ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
                                   const Result& dst, int32_t width, int32_t height, int32_t count) {
   constexpr bool each = Matrix::isArray;
-  const auto single = [&](int64_t k) ZELM_BODY {
+  const auto single = [=](int64_t k) ZELM_CALL {
     qrSolution<T>(src1.object(k, width), buffer.pointer, src2.object(k), dst.object(k), width, height);
     return zelStatusOk;
   };
-  const bool inLanes = count > 1 && qrFitsLanes(width, height);
   constexpr int W = laneCount<T>;
-  QrScratch<Lanes<T>> scratch[2];
-  [[maybe_unused]] auto matrices = matrixBlocks(src1, width);
-  auto rights = vectorBlocks(src2);
-  auto results = vectorBlocks(dst);
-  bool neighbours = areNeighbours(src2) && areNeighbours(dst);
-  if constexpr (each) {
-    neighbours = neighbours && areNeighbours(src1);
-    if (width == Small{} && height == Small{})
-      return forBlocks<laneCount<T>, isPointerLayout<Result>>(
+  bool allNeighbours = areNeighbours(src2) && areNeighbours(dst);
+  if constexpr (each)
+    allNeighbours = allNeighbours && areNeighbours(src1);
+  const bool neighbours = allNeighbours;
+  const auto throughMemory = [=]() ZELM_CALL {
+    const bool inLanes = count > 1 && qrFitsLanes(width, height);
+    QrScratch<Lanes<T>> scratch[2];
+    [[maybe_unused]] auto matrices = matrixBlocks(src1, width);
+    auto rights = vectorBlocks(src2);
+    auto results = vectorBlocks(dst);
+    if (!each && inLanes) {
+      // One matrix: its lanes and the denominators of its reflections serve all vectors.
+      const auto matrix = src1.object(0, width);
+      for (int32_t i = 0; i < height; ++i)
+        for (int32_t j = 0; j < width; ++j)
+          scratch[0].element[i * width + j] = splat<Lanes<T>>(matrix.load(i, j));
+      qrDenominators(scratch[0], width, height);
+    }
+    return forBlocks<2 * W, isPointerLayout<Result>>(
+        count, neighbours,
+        [&](auto block) ZELM_BODY {
+          if (!inLanes)
+            return false;
+          const auto low = block.template low<W>();
+          const auto high = block.template high<W>();
+          loadRectangle(rights.at(low), scratch[0].vector, height, 1);
+          loadRectangle(rights.at(high), scratch[1].vector, height, 1);
+          if constexpr (each) {
+            loadRectangle(matrices.at(low), scratch[0].element, width, height);
+            loadRectangle(matrices.at(high), scratch[1].element, width, height);
+            qrSolveEach(scratch[0], scratch[1], width, height);
+          } else {
+            qrSolveOne(scratch[0], scratch[1], width, height);
+          }
+          storeRectangle(results.at(low), scratch[0].vector, width, 1);
+          storeRectangle(results.at(high), scratch[1].vector, width, 1);
+          return true;
+        },
+        single);
+  };
+  return forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
+    if constexpr (each && qrSolvesStraight<Matrix, decltype(w), decltype(h)>) {
+      auto matrices = matrixBlocks(src1, width);
+      auto rights = vectorBlocks(src2);
+      auto results = vectorBlocks(dst);
+      return forBlocks<W, isPointerLayout<Result>>(
           count, neighbours,
           [&](auto block) ZELM_BODY {
-            qrSolveSmall<Lanes<T>>(matrices.at(block), rights.at(block), results.at(block));
+            qrSolveStraight<Lanes<T>>(matrices.at(block), rights.at(block), results.at(block), w, h);
             return true;
           },
           single);
-  } else if (inLanes) {
-    // One matrix: its lanes and the denominators of its reflections serve all
-    // vectors.
-    const auto matrix = src1.object(0, width);
-    for (int32_t i = 0; i < height; ++i)
-      for (int32_t j = 0; j < width; ++j)
-        scratch[0].element[i * width + j] = splat<Lanes<T>>(matrix.load(i, j));
-    qrDenominators(scratch[0], width, height);
-  }
-  return forBlocks<2 * laneCount<T>, isPointerLayout<Result>>(
-      count, neighbours,
-      [&](auto block) ZELM_BODY {
-        if (!inLanes)
-          return false;
-        const auto low = block.template low<W>();
-        const auto high = block.template high<W>();
-        if constexpr (each) {
-          loadRectangle(matrices.at(low), scratch[0].element, width, height);
-          loadRectangle(matrices.at(high), scratch[1].element, width, height);
-        }
-        loadRectangle(rights.at(low), scratch[0].vector, height, 1);
-        loadRectangle(rights.at(high), scratch[1].vector, height, 1);
-        qrSolveLanes<each>(scratch[0], scratch[1], width, height);
-        storeRectangle(results.at(low), scratch[0].vector, width, 1);
-        storeRectangle(results.at(high), scratch[1].vector, width, 1);
-        return true;
-      },
-      single);
+    } else {
+      return throughMemory();
+    }
+  });
 }
 
 } // namespace zelm
