@@ -388,9 +388,10 @@ template <bool transposed, class View> ZELM_INLINE auto factor(const View& matri
 template <class L, int N, int j> ZELM_INLINE L spread(const char* vector) {
   using T = ElementOf<L>;
   L lanes = splat<L>(loadElement<T>(vector + j * static_cast<int>(sizeof(T))));
-  // The compiler does not see where this comes from: for the narrower vectors that take their lanes from here it would
-  // load the element once more, or in place of the vector.
-  asm("" : "+x"(lanes));
+  // Narrower vectors take their lanes from here. The compiler does not see where they come from, or it would load the
+  // element once more for those, or in place of the vector.
+  if constexpr (N > LaneTraits<L>::width)
+    asm("" : "+x"(lanes));
   return lanes;
 }
 #else
@@ -645,12 +646,15 @@ ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T
   Columns<Tree, T, N> columns;
   columns.template hold<transposed>(stored.object(0, N), src3);
   int64_t k = 0;
-  constexpr int64_t step = N <= laneCount<T> ? 2 : 1;
+  // Objects of one vector are too short for a loop's own instructions not to count.
+  constexpr int64_t step = N <= laneCount<T> ? 4 : 1;
   for (; k + step <= end; k += step) {
     ZELM_UNROLL
     for (int o = 0; o < step; ++o)
       columns.multiply(src2.first, src3, dst.first, (k + o) * dst.bytes);
   }
+  for (; k < end; ++k)
+    columns.multiply(src2.first, src3, dst.first, k * dst.bytes);
   return k;
 }
 
