@@ -195,17 +195,22 @@ private:
   template <int N> ZELM_INLINE void loadFixed(int64_t offset, Fixed<N>, Lanes<Element>* lanes) const {
     if constexpr (N == 1)
       lanes[0] = gather(offset);
-    else if constexpr (N == 2 && chunk == 4)
+    else if constexpr ((N == 2 || N == 3) && chunk == 4) {
+      // Three elements as two and one.
       loadPairs(objects, offset, lanes);
-    else
+      if constexpr (N == 3)
+        lanes[2] = gather(offset + 2 * elementBytes);
+    } else
       loadRun<N, Element>(objects, offset, lanes);
   }
   template <int N> ZELM_INLINE void storeFixed(int64_t offset, Fixed<N>, const Lanes<Element>* lanes) const {
     if constexpr (N == 1)
       scatter(offset, lanes[0]);
-    else if constexpr (N == 2 && chunk == 4)
+    else if constexpr ((N == 2 || N == 3) && chunk == 4) {
       storePairs(objects, offset, lanes);
-    else
+      if constexpr (N == 3)
+        scatter(offset + 2 * elementBytes, lanes[2]);
+    } else
       storeRun<N, Element>(objects, offset, lanes);
   }
 
