@@ -1,7 +1,6 @@
 // The homogeneous transform of points: dst = (src1 * (x0, x1, x2, 1)) / w.
 #pragma once
 
-#include "zelmelementwise.h"
 #include "zelmframe.h"
 #include "zelmtriples.h"
 
@@ -117,8 +116,7 @@ inline ZelStatus transformPoints(Points, const A& src1, const B& src2, const D& 
       const auto* const from = reinterpret_cast<const char*>(src2.pointer);
       auto* const to = reinterpret_cast<char*>(dst.pointer);
       // Vectors of points can be aligned wherever elements are.
-      const int64_t bytes = static_cast<int64_t>(count) * dst.stride0;
-      if (bytes >= streamingBytes && elementsToAlignment<float>(to) >= 0 && to != from) {
+      if (isStreamed<float>(to, int64_t{3} * count, from)) {
         int64_t lead = 0;
         while (elementsToAlignment<float>(to + lead * dst.stride0) != 0)
           ++lead;

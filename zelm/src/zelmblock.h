@@ -1,4 +1,5 @@
-// Blocks: objects k, k + 1, ... of a batch side by side in lanes, whatever their layout; Cholesky and QR run on them.
+// Blocks: objects k, k + 1, ... of a batch side by side in lanes, whatever their layout; Cholesky, QR and LU run on
+// them.
 //
 // A block has one object a lane. Where the batch ends within a block, the lanes behind its last object repeat that
 // object: they are read, computed and stored alike, so that the rest of a batch takes the code of a whole block. Only

@@ -93,7 +93,8 @@ template <int K, class T, int N> ZELM_INLINE int eliminate(Tile<T, N, N>& a, [[m
   if constexpr (K < N - 1) {
     const Exchange<T, N, K> exchange(a);
     exchange.places(p);
-    if (fixedLimit < T >> exchange.largest)
+    constexpr T limit = fixedLimit<T>;
+    if (limit > exchange.largest)
       return K;
     ZELM_UNROLL
     for (int j = 0; j <= K; ++j)

@@ -64,7 +64,7 @@ ZELM_INLINE Lanes<double, 4> loadMasked(const char* x, Lanes<double, 4>, int n) 
 #else
 // Three elements; the only case of 16-byte vectors.
 ZELM_INLINE Lanes<float, 4> loadMasked(const char* x, Lanes<float, 4>, int) {
-  return _mm_movelh_ps(_mm_castpd_ps(_mm_set_sd(loadElement<double>(x))), _mm_set_ss(loadElement<float>(x + 8)));
+  return loadTriple(x);
 }
 #endif
 
@@ -121,13 +121,6 @@ template <class T, int N> struct PackedRun {
   Byte<T>* origin;
   ZELM_INLINE Byte<T>* operator[](int64_t k) const { return origin + k * (N * stride1); }
 };
-
-constexpr int smaller(int a, int b) {
-  return a < b ? a : b;
-}
-constexpr int larger(int a, int b) {
-  return a > b ? a : b;
-}
 
 // How the rows of N elements are cut into vectors of W: the last one is moved back to end with the row, so that some
 // columns are computed twice; a row that is shorter than W leaves lanes idle. Where two rows fit the widest vector, two
@@ -948,13 +941,6 @@ ZELM_INLINE ZelStatus multiplyAny(const A& src1, int32_t src1Width, int32_t src1
   return zelStatusOk;
 }
 
-template <class X> ZELM_INLINE const auto& storedOf(const X& x) {
-  if constexpr (isTransposed<X>)
-    return x.stored();
-  else
-    return x;
-}
-
 // All objects have the side N.
 template <int N, class A, class B, class D>
 ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, int32_t count) {
@@ -963,7 +949,7 @@ ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, 
   using Single = SingleSources<A, B, D>;
   if constexpr (View::unitRows) {
     multiplyUnit<T, N, Which<isTransposed<A>, isTransposed<B>>, Single>(
-        objectsOf(storedOf(src1)), objectsOf(storedOf(src2)), objectsOf(dst), count);
+        objectsOf(asStored(src1)), objectsOf(asStored(src2)), objectsOf(dst), count);
   } else {
     if constexpr (D::isArray && isNeighbour<View>) {
       if (liesSideBySide(src1, src2, dst, count)) {

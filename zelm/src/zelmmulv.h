@@ -2,7 +2,7 @@
 //
 // A result element is a sum of products, and the brackets of the sum decide its last bits. They differ by form, type,
 // layout, stride path and size; the sums below are all there are, and the row of a kernel names the one it takes.
-// Nothing is fused. Vectors hold objects, or elements of one result, a lane each.
+// Nothing is fused. Vectors hold objects, elements of one result or, where the sum pairs them, its terms, a lane each.
 #pragma once
 
 #include "zelmframe.h"
@@ -269,8 +269,7 @@ ZELM_INLINE void storeVectorTile(const View& x, const Tile<typename View::Elemen
 }
 
 // The matrix operand as it is stored; as many objects from k on as L is wide.
-template <class L, Lie lie, int N, bool transposed, class Operand>
-ZELM_INLINE auto loadStored(const Operand& x, int64_t k) {
+template <class L, int N, bool transposed, class Operand> ZELM_INLINE auto loadStored(const Operand& x, int64_t k) {
   if constexpr (LaneTraits<L>::width == 1)
     return loadTile<N, N>(x.object(k, N));
   else if constexpr (isPackedObjects<Operand> && !transposed)
@@ -278,36 +277,28 @@ ZELM_INLINE auto loadStored(const Operand& x, int64_t k) {
   else if constexpr (isPackedObjects<Operand>)
     return loadPackedMatrices<N>(x, k);
   else if constexpr (Operand::isArray)
-    return loadTiles<lie, N, N>(x, k);
+    return loadTiles<N, N>(x, k);
   else
     return splatTile<L>(loadTile<N, N>(x.object(0, N)));
 }
-template <class L, Lie lie, int N, class Operand> ZELM_INLINE auto loadVector(const Operand& x, int64_t k) {
+template <class L, int N, class Operand> ZELM_INLINE auto loadVector(const Operand& x, int64_t k) {
   if constexpr (LaneTraits<L>::width == 1)
     return loadVectorTile<N>(x.object(k));
   else if constexpr (isPackedObjects<Operand>)
     return loadPackedVectors(x, k);
   else if constexpr (Operand::isArray)
-    return loadVectorTiles<lie, N>(x, k);
+    return loadVectorTiles<N>(x, k);
   else
     return splatTile<L>(loadVectorTile<N>(x.object(0)));
 }
-template <class L, Lie lie, int N, class Operand>
+template <class L, int N, class Operand>
 ZELM_INLINE void storeVector(const Operand& x, int64_t k, const Tile<L, 1, N>& tile) {
   if constexpr (LaneTraits<L>::width == 1)
     storeVectorTile<N>(x.object(k), tile);
   else if constexpr (isPackedObjects<Operand>)
     storePackedVectors(x, k, tile);
   else
-    storeVectorTiles<lie, N>(x, k, tile);
-}
-
-// Transposed operands are loaded as stored and transposed in the arithmetic.
-template <class Operand> ZELM_INLINE const auto& asStored(const Operand& x) {
-  if constexpr (isTransposed<Operand>)
-    return x.stored();
-  else
-    return x;
+    storeVectorTiles<N>(x, k, tile);
 }
 
 template <class Tree, bool transposed, class L, int N, class M, class V, class W>
@@ -326,33 +317,31 @@ ZELM_INLINE Tile<L, 1, N> multiplyAdd(const M& matrix, const V& vector, const W&
 }
 
 // Objects first .. end-1, one a step for scalar L, else as many as L is wide. Returns the first object not done.
-template <class Tree, class L, Lie lie, int N, bool transposed, class A, class B, class C, class D>
+template <class Tree, class L, int N, bool transposed, class A, class B, class C, class D>
 ZELM_INLINE int64_t multiplyStraight(const A& stored, const B& src2, const C& src3, const D& dst, int64_t first,
                                      int64_t end) {
   constexpr int64_t width = LaneTraits<L>::width;
   const auto addendOf = [&](int64_t k) {
     if constexpr (isAddend<C>)
-      return loadVector<L, lie, N>(src3, k);
+      return loadVector<L, N>(src3, k);
     else
       return NoAddend{};
   };
   int64_t k = first;
   if constexpr (!A::isArray) {
-    const auto matrix = loadStored<L, lie, N, transposed>(stored, 0);
+    const auto matrix = loadStored<L, N, transposed>(stored, 0);
     for (; k + width <= end; k += width)
-      storeVector<L, lie, N>(dst, k,
-                             multiplyAdd<Tree, transposed, L, N>(matrix, loadVector<L, lie, N>(src2, k), addendOf(k)));
+      storeVector<L, N>(dst, k, multiplyAdd<Tree, transposed, L, N>(matrix, loadVector<L, N>(src2, k), addendOf(k)));
   } else if constexpr (!B::isArray) {
-    const auto vector = loadVector<L, lie, N>(src2, 0);
+    const auto vector = loadVector<L, N>(src2, 0);
     for (; k + width <= end; k += width)
-      storeVector<L, lie, N>(
-          dst, k,
-          multiplyAdd<Tree, transposed, L, N>(loadStored<L, lie, N, transposed>(stored, k), vector, addendOf(k)));
+      storeVector<L, N>(
+          dst, k, multiplyAdd<Tree, transposed, L, N>(loadStored<L, N, transposed>(stored, k), vector, addendOf(k)));
   } else {
     for (; k + width <= end; k += width)
-      storeVector<L, lie, N>(dst, k,
-                             multiplyAdd<Tree, transposed, L, N>(loadStored<L, lie, N, transposed>(stored, k),
-                                                                 loadVector<L, lie, N>(src2, k), addendOf(k)));
+      storeVector<L, N>(dst, k,
+                        multiplyAdd<Tree, transposed, L, N>(loadStored<L, N, transposed>(stored, k),
+                                                            loadVector<L, N>(src2, k), addendOf(k)));
   }
   return k;
 }
@@ -360,10 +349,6 @@ ZELM_INLINE int64_t multiplyStraight(const A& stored, const B& src2, const C& sr
 // ---------------------------------------------------------------------------------------------------------------------
 // A single matrix and packed vectors: a lane is an element of a result. The matrix is held as columns, and what the
 // terms take of a vector is spread over the lanes, so that nothing is transposed.
-
-constexpr int smaller(int a, int b) {
-  return a < b ? a : b;
-}
 
 // lane w: element(w)
 template <class L, class F> ZELM_INLINE L lanesOf(const F& element) {
@@ -905,7 +890,7 @@ __attribute__((noinline)) int64_t multiplyPacked(A stored, B src2, C src3, D dst
   else if constexpr (A::isArray && !transposed && B::isArray && sizeof(T) == 8 && N >= laneCount<T>)
     return multiplyRowsByArray<Tree, N>(stored, src2, dst, count);
   else
-    return multiplyStraight<Tree, Lanes<T>, Lie::Packed, N, transposed>(stored, src2, src3, dst, 0, count);
+    return multiplyStraight<Tree, Lanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
 }
 
 template <class Tree, int N, class A, class B, class C, class D>
@@ -920,9 +905,9 @@ inline void multiplySide(const A& src1, const B& src2, const C& src3, const D& d
                                               asPacked<N>(dst), count);
   } else if constexpr (isInterleaved<D>) {
     if (neighboursOrSingle(src1) && neighboursOrSingle(src2) && neighboursOrSingle(src3) && neighboursOrSingle(dst))
-      k = multiplyStraight<Tree, Lanes<T>, Lie::Neighbours, N, transposed>(stored, src2, src3, dst, 0, count);
+      k = multiplyStraight<Tree, Lanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
   }
-  multiplyStraight<Tree, T, Lie::Elements, N, transposed>(stored, src2, src3, dst, k, count);
+  multiplyStraight<Tree, T, N, transposed>(stored, src2, src3, dst, k, count);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -522,4 +522,19 @@ template <class Operand> struct Transposed : Operand {
 template <class> constexpr bool isTransposed = false;
 template <class Operand> constexpr bool isTransposed<Transposed<Operand>> = true;
 
+// The operand with its rows as they are stored.
+template <class Operand> ZELM_INLINE const auto& asStored(const Operand& x) {
+  if constexpr (isTransposed<Operand>)
+    return x.stored();
+  else
+    return x;
+}
+
+constexpr int smaller(int a, int b) {
+  return a < b ? a : b;
+}
+constexpr int larger(int a, int b) {
+  return a > b ? a : b;
+}
+
 } // namespace zelm

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "zelmblock.h"
+#include "zelmframe.h"
 
 // clang-format off
 #define QR_FACTOR(V, T, S, D)    V##_##S(src, const T), V##_BUFFER(buffer, T, height), V##_##D(dst, T), V##_SIZE(width), V##_SIZE(height)
@@ -42,6 +43,11 @@ struct NotWider {
     return agree(rest...);
   }
 };
+
+using N_Z_S_Shape = N_Z_S_M<NotWider>;
+using N_Z_H_Shape = N_Z_H_M<NotWider>;
+using N_C_Z_S_Shape = N_C_Z_S_M<NotWider>;
+using N_C_Z_S_H_Shape = N_C_Z_S_H_M<NotWider>;
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Arithmetic, on an object or on a block of them

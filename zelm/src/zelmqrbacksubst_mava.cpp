@@ -13,9 +13,6 @@ struct MatrixEach {
   }
 };
 
-using N_C_Z_S_Shape = N_C_Z_S_M<NotWider>;
-using N_C_Z_S_H_Shape = N_C_Z_S_H_M<NotWider>;
-
 } // namespace
 } // namespace zelm
 

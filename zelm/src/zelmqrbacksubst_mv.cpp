@@ -2,15 +2,6 @@
 #include "zelmframe.h"
 #include "zelmqr.h"
 
-namespace zelm {
-namespace {
-
-using N_Z_S_Shape = N_Z_S_M<NotWider>;
-using N_Z_H_Shape = N_Z_H_M<NotWider>;
-
-} // namespace
-} // namespace zelm
-
 // clang-format off
 //     exported function  arguments type  order of tests  kernels: unit strides, any
 SINGLE(zelmQRBackSubst_mv_32f, QR_SOLVE_MV_S, float,  N_Z_S_Shape, ownzelmQRBackSubst_mv_32f, ownzelmQRBackSubst_mv_32f_S2)

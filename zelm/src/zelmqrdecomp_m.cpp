@@ -2,15 +2,6 @@
 #include "zelmframe.h"
 #include "zelmqr.h"
 
-namespace zelm {
-namespace {
-
-using N_Z_S_Shape = N_Z_S_M<NotWider>;
-using N_Z_H_Shape = N_Z_H_M<NotWider>;
-
-} // namespace
-} // namespace zelm
-
 // clang-format off
 //     exported function  arguments type  order of tests  kernels: unit strides, any
 SINGLE(zelmQRDecomp_m_32f, QR_FACTOR_M_S, float,  N_Z_S_Shape, ownzelmQRDecomp_m_32f, ownzelmQRDecomp_m_32f_S2)

@@ -58,16 +58,6 @@ template <int R, int C, class View> ZELM_INLINE auto loadTile(const View& x) {
   return tile;
 }
 
-template <int R, int C, class View>
-ZELM_INLINE void storeTile(const View& x, const Tile<typename View::Element, R, C>& tile) {
-  ZELM_UNROLL
-  for (int i = 0; i < R; ++i) {
-    ZELM_UNROLL
-    for (int j = 0; j < C; ++j)
-      x.store(i, j, tile(i, j));
-  }
-}
-
 // ---------------------------------------------------------------------------------------------------------------------
 // As many objects as a vector has elements, from the addresses of their elements
 
@@ -259,144 +249,40 @@ ZELM_INLINE void storeRun(const ObjectAddresses<T, char>& x, int64_t offset, con
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// As many objects as a vector has elements, from an operand
-
-// How the elements of an operand's objects lie; known for a whole call.
-enum class Lie {
-  Packed,     // the elements of an object one behind the other, row after row
-  Rows,       // the elements of a row one behind the other
-  Elements,   // anywhere
-  Neighbours, // pointer layout: at each position, the elements of the objects one behind the other
-};
-
-template <class T, class Operand> ZELM_INLINE auto objectAddresses(const Operand& x, int64_t k) {
-  using View = decltype(x.object(0, 0));
-  using C = std::remove_pointer_t<decltype(std::declval<View>().address(0, 0))>;
-  ObjectAddresses<T, C> addresses;
-  ZELM_UNROLL
-  for (int w = 0; w < laneCount<T>; ++w)
-    addresses.of[w] = x.object(k + w, 0).address(0, 0);
-  return addresses;
-}
+// As many objects as a vector has elements, from an operand of the pointer layout that has them side by side
 
 // Objects k, k + 1, ... of an untransposed matrix operand of R by C elements, one a lane.
-template <Lie lie, int R, int C, class Operand> ZELM_INLINE auto loadTiles(const Operand& x, int64_t k) {
+template <int R, int C, class Operand> ZELM_INLINE auto loadTiles(const Operand& x, int64_t k) {
   using T = typename Operand::Element;
+  const auto view = x.object(k, C);
   Tile<Lanes<T>, R, C> tile;
-  if constexpr (lie == Lie::Packed) {
-    loadRun<R * C, T>(objectAddresses<T>(x, k), 0, tile.element);
-  } else if constexpr (lie == Lie::Rows) {
-    const auto addresses = objectAddresses<T>(x, k);
+  ZELM_UNROLL
+  for (int i = 0; i < R; ++i) {
     ZELM_UNROLL
-    for (int i = 0; i < R; ++i)
-      loadRun<C, T>(addresses, i * static_cast<int64_t>(x.stride1), tile.element + i * C);
-  } else if constexpr (lie == Lie::Neighbours) {
-    const auto view = x.object(k, C);
-    ZELM_UNROLL
-    for (int i = 0; i < R; ++i) {
-      ZELM_UNROLL
-      for (int j = 0; j < C; ++j)
-        tile(i, j) = loadLanes<T>(view.address(i, j));
-    }
-  } else {
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w) {
-      const auto view = x.object(k + w, C);
-      ZELM_UNROLL
-      for (int i = 0; i < R; ++i) {
-        ZELM_UNROLL
-        for (int j = 0; j < C; ++j)
-          tile(i, j)[w] = view.load(i, j);
-      }
-    }
+    for (int j = 0; j < C; ++j)
+      tile(i, j) = loadLanes<T>(view.address(i, j));
   }
   return tile;
-}
-
-template <Lie lie, int R, int C, class Operand>
-ZELM_INLINE void storeTiles(const Operand& x, int64_t k, const Tile<Lanes<typename Operand::Element>, R, C>& tile) {
-  using T = typename Operand::Element;
-  if constexpr (lie == Lie::Packed) {
-    storeRun<R * C, T>(objectAddresses<T>(x, k), 0, tile.element);
-  } else if constexpr (lie == Lie::Rows) {
-    const auto addresses = objectAddresses<T>(x, k);
-    ZELM_UNROLL
-    for (int i = 0; i < R; ++i)
-      storeRun<C, T>(addresses, i * static_cast<int64_t>(x.stride1), tile.element + i * C);
-  } else if constexpr (lie == Lie::Neighbours) {
-    const auto view = x.object(k, C);
-    ZELM_UNROLL
-    for (int i = 0; i < R; ++i) {
-      ZELM_UNROLL
-      for (int j = 0; j < C; ++j)
-        storeLanes(view.address(i, j), tile(i, j));
-    }
-  } else {
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w) {
-      const auto view = x.object(k + w, C);
-      ZELM_UNROLL
-      for (int i = 0; i < R; ++i) {
-        ZELM_UNROLL
-        for (int j = 0; j < C; ++j)
-          view.store(i, j, tile(i, j)[w]);
-      }
-    }
-  }
 }
 
 // The same for vectors of N elements: a tile of one row.
-template <class T, class Operand> ZELM_INLINE auto vectorAddresses(const Operand& x, int64_t k) {
-  using C = std::remove_pointer_t<decltype(x.object(0).address(0))>;
-  ObjectAddresses<T, C> addresses;
-  ZELM_UNROLL
-  for (int w = 0; w < laneCount<T>; ++w)
-    addresses.of[w] = x.object(k + w).address(0);
-  return addresses;
-}
-
-template <Lie lie, int N, class Operand> ZELM_INLINE auto loadVectorTiles(const Operand& x, int64_t k) {
+template <int N, class Operand> ZELM_INLINE auto loadVectorTiles(const Operand& x, int64_t k) {
   using T = typename Operand::Element;
+  const auto view = x.object(k);
   Tile<Lanes<T>, 1, N> tile;
-  if constexpr (lie == Lie::Packed || lie == Lie::Rows) {
-    loadRun<N, T>(vectorAddresses<T>(x, k), 0, tile.element);
-  } else if constexpr (lie == Lie::Neighbours) {
-    const auto view = x.object(k);
-    ZELM_UNROLL
-    for (int j = 0; j < N; ++j)
-      tile(0, j) = loadLanes<T>(view.address(j));
-  } else {
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w) {
-      const auto view = x.object(k + w);
-      ZELM_UNROLL
-      for (int j = 0; j < N; ++j)
-        tile(0, j)[w] = view.load(j);
-    }
-  }
+  ZELM_UNROLL
+  for (int j = 0; j < N; ++j)
+    tile(0, j) = loadLanes<T>(view.address(j));
   return tile;
 }
 
-template <Lie lie, int N, class Operand>
+template <int N, class Operand>
 ZELM_INLINE void storeVectorTiles(const Operand& x, int64_t k,
                                   const Tile<Lanes<typename Operand::Element>, 1, N>& tile) {
-  using T = typename Operand::Element;
-  if constexpr (lie == Lie::Packed || lie == Lie::Rows) {
-    storeRun<N, T>(vectorAddresses<T>(x, k), 0, tile.element);
-  } else if constexpr (lie == Lie::Neighbours) {
-    const auto view = x.object(k);
-    ZELM_UNROLL
-    for (int j = 0; j < N; ++j)
-      storeLanes(view.address(j), tile(0, j));
-  } else {
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w) {
-      const auto view = x.object(k + w);
-      ZELM_UNROLL
-      for (int j = 0; j < N; ++j)
-        view.store(j, tile(0, j)[w]);
-    }
-  }
+  const auto view = x.object(k);
+  ZELM_UNROLL
+  for (int j = 0; j < N; ++j)
+    storeLanes(view.address(j), tile(0, j));
 }
 
 } // namespace zelm

@@ -44,25 +44,19 @@ template <class T> ZELM_INLINE Three<Lanes<T>> loadThree(const char* address) {
 #endif
 }
 
-template <bool Stream, class V> ZELM_INLINE void storeOne(char* address, const V& v) {
-  if constexpr (Stream)
-    streamLanes(address, v);
-  else
-    storeLanes(address, v);
-}
 template <bool Stream, class T>
 ZELM_INLINE void storeThree(char* address, const Lanes<T>& p, const Lanes<T>& q, const Lanes<T>& r) {
 #ifdef __AVX2__
-  storeOne<Stream>(address, lowHalf(p));
-  storeOne<Stream>(address + 16, lowHalf(q));
-  storeOne<Stream>(address + 32, lowHalf(r));
-  storeOne<Stream>(address + 48, highHalf(p));
-  storeOne<Stream>(address + 64, highHalf(q));
-  storeOne<Stream>(address + 80, highHalf(r));
+  putLanes<Stream>(address, lowHalf(p));
+  putLanes<Stream>(address + 16, lowHalf(q));
+  putLanes<Stream>(address + 32, lowHalf(r));
+  putLanes<Stream>(address + 48, highHalf(p));
+  putLanes<Stream>(address + 64, highHalf(q));
+  putLanes<Stream>(address + 80, highHalf(r));
 #else
-  storeOne<Stream>(address, p);
-  storeOne<Stream>(address + vectorBytes, q);
-  storeOne<Stream>(address + 2 * vectorBytes, r);
+  putLanes<Stream>(address, p);
+  putLanes<Stream>(address + vectorBytes, q);
+  putLanes<Stream>(address + 2 * vectorBytes, r);
 #endif
 }
 
@@ -135,9 +129,9 @@ template <class T, bool Stream = false> ZELM_INLINE void storeTurnedTriples(char
   const auto first = tile(0, 0);
   const auto second = rotateLanes<W - 1>(tile(0, 1), lanes);
   const auto third = rotateLanes<W - 2>(tile(0, 2), lanes);
-  storeOne<Stream>(x, chooseLanes<ElementOfVector<W, 0>>(first, second, third, lanes));
-  storeOne<Stream>(x + vectorBytes, chooseLanes<ElementOfVector<W, 1>>(first, second, third, lanes));
-  storeOne<Stream>(x + 2 * vectorBytes, chooseLanes<ElementOfVector<W, 2>>(first, second, third, lanes));
+  putLanes<Stream>(x, chooseLanes<ElementOfVector<W, 0>>(first, second, third, lanes));
+  putLanes<Stream>(x + vectorBytes, chooseLanes<ElementOfVector<W, 1>>(first, second, third, lanes));
+  putLanes<Stream>(x + 2 * vectorBytes, chooseLanes<ElementOfVector<W, 2>>(first, second, third, lanes));
 }
 #else
 template <class T> ZELM_INLINE Tile<Lanes<T>, 1, 3> loadTurnedTriples(const char* x) {
