@@ -64,16 +64,27 @@ template <int R, int C, class View> ZELM_INLINE auto loadTile(const View& x) {
 // Sixteen bytes of each object.
 template <class T> constexpr int chunkElements = 16 / static_cast<int>(sizeof(T));
 
-// A square of elements, one row a vector.
+// A square of elements, one row a vector. Wide vectors keep to their halves first.
 template <class T> ZELM_INLINE void transposeSquare(Lanes<T, 4> (&v)[4]) {
-  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 1, 5);
-  const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 6, 3, 7);
-  const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 1, 5);
-  const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 6, 3, 7);
-  v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
-  v[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
-  v[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
-  v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+  if constexpr (sizeof(T) == 8) {
+    const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 2, 6);
+    const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 5, 3, 7);
+    const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 2, 6);
+    const auto a3 = __builtin_shufflevector(v[2], v[3], 1, 5, 3, 7);
+    v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
+    v[1] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
+    v[2] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
+    v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+  } else {
+    const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 1, 5);
+    const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 6, 3, 7);
+    const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 1, 5);
+    const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 6, 3, 7);
+    v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
+    v[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
+    v[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
+    v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
+  }
 }
 template <class T> ZELM_INLINE void transposeSquare(Lanes<T, 2> (&v)[2]) {
   const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 2);
