@@ -396,7 +396,9 @@ void threads(const Member& m) {
       spec.inPlace = sources[static_cast<size_t>(rng.below(static_cast<int>(sources.size())))];
     spec.threads = team;
     spec.team = kind;
-    spec.dataKind = spec.inPlace >= 0 ? m.family->dataKinds[0] : dataKind(m, rng);
+    // How many threads a dynamic team has is known from the entries alone; without them no object may fail.
+    const bool unknownTeam = kind == Team::Dynamic && !countedBuild;
+    spec.dataKind = spec.inPlace >= 0 || unknownTeam ? m.family->dataKinds[0] : dataKind(m, rng);
     cases.add(spec);
   };
   std::vector<Sizes> shapes = m.shapes();

@@ -563,7 +563,7 @@ std::string runCase(const Member& m, const CaseSpec& spec) {
       return wrong + ": " + text;
     team = found;
   } else if (spec.team == Team::Dynamic)
-    team = 1; // families that can fail are not run so without counts
+    team = 1; // no object of such a case fails, so that the shares do not show
 
   // Which objects are done, where a share stops at its first failure.
   std::vector<bool> reached(static_cast<size_t>(job.count), true);
