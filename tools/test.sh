@@ -46,7 +46,7 @@ cmake --build "$build" --parallel "$(nproc)"
 # all of these are among the cases that run.
 set --
 if [ -n "$sanitize" ]; then
-  export ZELM_EVERY=13
+  export ZELM_EVERY=29
   set -- --exclude-regex '^test_mul_mm\.Results$' # minutes even so; its other suites run
 fi
 ctest --test-dir "$build" --output-on-failure --parallel "$(nproc)" "$@"
