@@ -18,15 +18,15 @@ template <class T> constexpr int hugeCount(int each) {
   return (100 << 20) / (each * static_cast<int>(sizeof(T))) / 32 * 32 + 5;
 }
 
-// call(dst) writes what is expected and nothing beside it, with dst on a multiple of a vector and one and three
-// elements behind it.
+// call(dst) writes what is expected and nothing beside it, with dst on a multiple of 32 bytes, 16 bytes behind it, and
+// one and three elements.
 template <class T, class Call> void expectHuge(const std::vector<T>& expected, Call call) {
   constexpr size_t vector = 32 / sizeof(T);
   const size_t n = expected.size();
   std::vector<T> memory(n + 3 * vector);
   const size_t start = 2 * vector - reinterpret_cast<uintptr_t>(memory.data()) / sizeof(T) % vector;
   for (int threads : {1, 2})
-    for (size_t offset : {size_t{0}, size_t{1}, size_t{3}}) {
+    for (size_t offset : {size_t{0}, size_t{1}, size_t{3}, 16 / sizeof(T)}) {
       std::fill(memory.begin(), memory.end(), T(-1));
       T* const dst = &memory[start + offset];
       omp_set_num_threads(threads);

@@ -283,19 +283,42 @@ TEST(Thresholds, Numbers) {
   EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 30000, 2));
 }
 
+// src1 an array of matrices of side N, src2 one or, with a stride0 of its own, an array.
+template <class T, int N, class Call> void expectHugeProducts(Call call) {
+  constexpr int each = N * N, row = N * static_cast<int>(sizeof(T));
+  const auto n = static_cast<size_t>(each) * static_cast<size_t>(hugeCount<T>(each));
+  const std::vector<T> a = hugeValues<T>(n), b(a.rbegin(), a.rend());
+  expectHugeAsInSmallCalls<T>(each, [&](int first, int count, T* dst) {
+    return call(&a[static_cast<size_t>(first * each)], b.data(), first * each, dst, N * row, row, count);
+  });
+}
+
+template <class T>
+using ArrayBySingle = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, T*, int, int, int,
+                                    int);
+template <class T>
+using ArrayByArray = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, int, T*, int, int,
+                                   int, int);
+template <class T, int N> void expectHugeProducts(ArrayBySingle<T> mul) {
+  expectHugeProducts<T, N>([mul](const T* a, const T* b, int, T* dst, int object, int row, int count) {
+    constexpr int E = sizeof(T);
+    return mul(a, object, row, E, N, N, b, row, E, N, N, dst, object, row, E, count);
+  });
+}
+template <class T, int N> void expectHugeProducts(ArrayByArray<T> mul) {
+  expectHugeProducts<T, N>([mul](const T* a, const T* b, int from, T* dst, int object, int row, int count) {
+    constexpr int E = sizeof(T);
+    return mul(a, object, row, E, N, N, b + from, object, row, E, N, N, dst, object, row, E, count);
+  });
+}
+
 TEST(Huge, Mul) {
-  constexpr int side = 3, each = side * side, row = 4 * side, object = 4 * each;
-  const auto n = static_cast<size_t>(each) * static_cast<size_t>(hugeCount<float>(each));
-  const std::vector<float> a = hugeValues<float>(n), b(a.rbegin(), a.rend());
-  expectHugeAsInSmallCalls<float>(each, [&](int first, int count, float* dst) {
-    return zelmMul_mama_32f(&a[static_cast<size_t>(first * each)], object, row, 4, side, side,
-                            &b[static_cast<size_t>(first * each)], object, row, 4, side, side, dst, object, row, 4,
-                            count);
-  });
-  expectHugeAsInSmallCalls<float>(each, [&](int first, int count, float* dst) {
-    return zelmMul_tma_32f(a.data(), row, 4, side, side, &b[static_cast<size_t>(first * each)], object, row, 4, side,
-                           side, dst, object, row, 4, count);
-  });
+  expectHugeProducts<float, 3>(zelmMul_mam_32f);
+  expectHugeProducts<double, 3>(zelmMul_tam_64f);
+  expectHugeProducts<float, 4>(zelmMul_mama_32f);
+  expectHugeProducts<double, 4>(zelmMul_mat_64f);
+  expectHugeProducts<float, 5>(zelmMul_mama_32f);
+  expectHugeProducts<double, 6>(zelmMul_mama_64f);
 }
 
 } // namespace

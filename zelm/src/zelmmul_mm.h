@@ -125,8 +125,9 @@ template <class T, int N> struct PackedRun {
 // How the rows of N elements are cut into vectors of W: the last one is moved back to end with the row, so that some
 // columns are computed twice; a row that is shorter than W leaves lanes idle. Where two rows fit the widest vector, two
 // rows of an object of side 4 lie in it side by side, or one row of each of two objects. A transposed src2 is turned in
-// blocks of 16 bytes a row.
-template <class T, int N, bool turned> struct RowVectors {
+// blocks of 16 bytes a row. A result that goes past the caches lies without gaps, in chunks of 16 bytes.
+template <class T, int N, bool turned, bool past = false> struct RowVectors {
+  static constexpr bool pastCaches = past;
   static constexpr int widest = turned ? smaller(4, laneCount<T>) : laneCount<T>;
   static constexpr int W = smaller(widest, N <= 4 ? 4 : 8);
   static constexpr int copies = N <= W ? laneCount<T> / W : 1;
@@ -326,6 +327,21 @@ ZELM_INLINE typename Cut::Rows loadRowPairs(const char* x, int64_t stride1) {
   return rows;
 }
 
+// Chunks of 16 bytes past the caches, those before `from` being there already.
+ZELM_INLINE void streamFrom(char* x, const Lanes<float, 4>& v, int) {
+  streamLanes(x, v);
+}
+ZELM_INLINE void streamFrom(char* x, const Lanes<double, 2>& v, int) {
+  streamLanes(x, v);
+}
+#ifdef __AVX2__
+template <class V> ZELM_INLINE void streamFrom(char* x, const V& v, int from) {
+  if (from < 16)
+    streamLanes(x, lowHalf(v));
+  streamLanes(x + 16, highHalf(v));
+}
+#endif
+
 // Rows i, i + 1, ... are stored in ascending order: what a vector writes behind its row is the next row's. The result's
 // group has the addresses of the objects, or of the two rows that are computed at once.
 template <class T, int N, bool packed, class Cut, int R>
@@ -338,7 +354,9 @@ ZELM_INLINE void storeSums(const typename Cut::Vector (&sum)[R][Cut::perRow], co
   for (int v = 0; v < Cut::perRow; ++v) {
     const int64_t at = (i + r) * stride1 + Cut::from(v) * static_cast<int64_t>(sizeof(T));
     const bool all = packed && inside<W, N>(i + r, Cut::from(v));
-    if constexpr (Cut::copies == 1) {
+    if constexpr (Cut::pastCaches) {
+      streamFrom(d.of[0] + at, sum[r][v], (v * W - Cut::from(v)) * static_cast<int>(sizeof(T)));
+    } else if constexpr (Cut::copies == 1) {
       storePart<T, W, Cut::used>(d.of[0] + at, sum[r][v], all);
     } else if constexpr (packed && Cut::rowsAtOnce == 2) {
       storeLanes(d.of[0] + at, sum[r][v]);
@@ -398,9 +416,9 @@ template <bool first, bool second> struct Which {
 
 // Packed: the rows of every object follow each other without gaps, in all operands. The operands are copies, which
 // stores to the result cannot change.
-template <class T, int N, class Transposed12, class Single, bool packed, class A, class B, class D>
+template <class T, int N, class Transposed12, class Single, bool packed, bool past = false, class A, class B, class D>
 ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_t count) {
-  using Cut = RowVectors<T, N, Transposed12::src2>;
+  using Cut = RowVectors<T, N, Transposed12::src2, past>;
   constexpr bool transposed = Transposed12::src1;
   constexpr bool together = (Cut::overflows && !Single::src2 && !Transposed12::src2) || Cut::quickTogether;
   constexpr int64_t step = Cut::objectsAtOnce;
@@ -473,7 +491,7 @@ template <class T, int first, int o = first / 3> ZELM_INLINE Lanes<T> loadStored
 }
 
 // W packed objects of side 3 and one src2 for all: the rows of the result in lanes.
-template <class T, class Transposed12, int v = 0>
+template <class T, class Transposed12, bool past, int v = 0>
 ZELM_INLINE void multiplyTriples(const char* src1, const Tile<Lanes<T>, 3, 3>& second, char* dst) {
   constexpr int W = laneCount<T>;
   constexpr auto E = static_cast<int>(sizeof(T));
@@ -490,15 +508,15 @@ ZELM_INLINE void multiplyTriples(const char* src1, const Tile<Lanes<T>, 3, 3>& s
       result.element, [&](int k) __attribute__((always_inline)) { return first(0, k); },
       [&](int k, int j) __attribute__((always_inline)) { return second(k, j); });
   if constexpr (Transposed12::src1)
-    storeTriples<false>(dst + v * 3 * vectorBytes, result);
+    storeTriples<past>(dst + v * 3 * vectorBytes, result);
   else
-    storeTurnedTriples<T>(dst + v * 3 * vectorBytes, result);
+    storeTurnedTriples<T, past>(dst + v * 3 * vectorBytes, result);
   if constexpr (v < 2)
-    multiplyTriples<T, Transposed12, v + 1>(src1, second, dst);
+    multiplyTriples<T, Transposed12, past, v + 1>(src1, second, dst);
 }
 
 // At least as many objects as a vector has lanes; the last ones are taken once more to end with the batch.
-template <class T, class Transposed12>
+template <class T, class Transposed12, bool past = false>
 ZELM_NOINLINE void multiplyTriples(const char* src1, const char* src2, char* dst, int64_t count) {
   constexpr int64_t W = laneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
@@ -510,7 +528,7 @@ ZELM_NOINLINE void multiplyTriples(const char* src1, const char* src2, char* dst
     second(k, j) = splat<Lanes<T>>(loadElement<T>(src2 + (Transposed12::src2 ? 3 * j + k : 3 * k + j) * E));
   for (int64_t k = 0; k < count; k += W) {
     const int64_t at = (k + W <= count ? k : count - W) * 9 * E;
-    multiplyTriples<T, Transposed12>(src1 + at, second, dst + at);
+    multiplyTriples<T, Transposed12, past>(src1 + at, second, dst + at);
   }
 }
 
@@ -578,49 +596,43 @@ ZELM_NOINLINE void multiplyRun(const char* src1, const char* src2, char* dst, in
                                                     PackedRun<T, N>{dst}, count);
 }
 
-// Writes what comes in pieces to one run of bytes past the caches, in whole vectors; what is left of a piece waits for
-// the next one. No piece is smaller than a vector, and none larger than mostBytes.
-template <int64_t mostBytes> class StreamedRun {
-public:
-  explicit StreamedRun(char* dst) : dst_(dst), lead_(-reinterpret_cast<std::intptr_t>(dst) & (vectorBytes - 1)) {}
-  // Where the next piece goes.
-  ZELM_INLINE char* place() { return bytes_ + held_; }
-  ZELM_INLINE void put(int64_t bytes) {
-    const int64_t end = held_ + bytes;
-    std::memcpy(dst_, bytes_, static_cast<std::size_t>(lead_));
-    int64_t at = lead_;
-    for (; at + vectorBytes <= end; at += vectorBytes)
-      streamLanes(dst_ + at, loadLanes<float>(bytes_ + at));
-    dst_ += at;
-    lead_ = 0;
-    held_ = end - at;
-    storeLanes(bytes_, loadLanes<float>(bytes_ + at));
-  }
-  ZELM_INLINE void finish() {
-    std::memcpy(dst_, bytes_, static_cast<std::size_t>(held_));
-    _mm_sfence();
-  }
+// The first of consecutive objects that starts at a multiple of `boundary`, or -1.
+template <int64_t objectBytes, int64_t boundary> ZELM_INLINE int64_t objectsToBoundary(const char* x) {
+  for (int64_t k = 0; k < boundary; ++k)
+    if (reinterpret_cast<std::uintptr_t>(x + k * objectBytes) % boundary == 0)
+      return k;
+  return -1;
+}
 
-private:
-  char* dst_;
-  int64_t lead_; // bytes before the first whole vector
-  int64_t held_ = 0;
-  alignas(vectorBytes) char bytes_[mostBytes + 2 * vectorBytes];
-};
-
-// A result far larger than the caches: some objects at a time, then past the caches.
+// A result far larger than the caches is written past them, where it is made in chunks that lie on their boundaries.
+// Others are left to the caches: collecting them first costs more than it saves.
 template <class T, int N, class Transposed12, class Single>
-ZELM_INLINE void multiplyStreaming(const char* src1, const char* src2, char* dst, int64_t count) {
-  constexpr auto object = static_cast<int64_t>(N * N * sizeof(T));
-  constexpr int64_t block = 8 * larger(1, static_cast<int>(1536 / (8 * object)));
-  StreamedRun<block * object> results(dst);
-  for (int64_t k = 0; k < count; k += block) {
-    const int64_t n = count - k < block ? count - k : block;
-    multiplyRun<T, N, Transposed12, Single>(src1 + (Single::src1 ? 0 : k * object),
-                                            src2 + (Single::src2 ? 0 : k * object), results.place(), n);
-    results.put(n * object);
+ZELM_NOINLINE void multiplyStreaming(const char* src1, const char* src2, char* dst, int64_t count) {
+  constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
+  constexpr int64_t object = N * row;
+  constexpr bool triples = byTriples<T, N, Transposed12, Single>;
+  const auto first = [=](int64_t k) { return src1 + (Single::src1 ? 0 : k * object); };
+  const auto second = [=](int64_t k) { return src2 + (Single::src2 ? 0 : k * object); };
+  const auto multiplyCached = [=](int64_t from, int64_t end) {
+    multiplyRun<T, N, Transposed12, Single>(first(from), second(from), dst + from * object, end - from);
+  };
+  if constexpr (triples || row % 16 == 0) {
+    const int64_t begin = objectsToBoundary < object, triples ? vectorBytes : 16 > (dst);
+    if (begin >= 0) {
+      const int64_t end = triples ? count - (count - begin) % laneCount<T> : count;
+      multiplyCached(0, begin);
+      if constexpr (triples)
+        multiplyTriples<T, Transposed12, true>(first(begin), second(begin), dst + begin * object, end - begin);
+      else
+        multiplyObjects<T, N, Transposed12, Single, true, true>(PackedRun<const T, N>{first(begin)},
+                                                                PackedRun<const T, N>{second(begin)},
+                                                                PackedRun<T, N>{dst + begin * object}, end - begin);
+      _mm_sfence();
+      multiplyCached(end, count);
+      return;
+    }
   }
-  results.finish();
+  multiplyCached(0, count);
 }
 
 template <class T, int N, class Transposed12, class Single>
