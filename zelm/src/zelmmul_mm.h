@@ -23,11 +23,6 @@ template <int N, int V, class L, class A, class B> ZELM_INLINE void sumProducts(
   }
 }
 
-// Before the next product is added: otherwise compilers load all factors first, more than there are registers.
-template <class V> ZELM_INLINE void holdInRegister(V& v) {
-  asm volatile("" : "+x"(v));
-}
-
 // ---------------------------------------------------------------------------------------------------------------------
 // Parts of vectors
 
@@ -292,11 +287,26 @@ template <class T, int N, class Cut, bool transposed> struct SpreadSingle {
   ZELM_INLINE auto operator()(int i, int k) const { return element[i * N + k]; }
 };
 
-// One object, its elements read one by one.
-template <class T, class Cut, bool transposed> struct SpreadOne {
+// One object, its elements read one by one, or, in sixteen-byte vectors, in chunks of a stored row.
+template <class T, int N, bool packed, class Cut, bool transposed> struct SpreadOne {
+  static constexpr int Q = chunkElements<T>;
+  static constexpr bool inChunks = vectorBytes == 16 && (packed || N >= Q) && (!transposed || N <= 4);
   const char* x;
   int64_t stride1;
-  ZELM_INLINE auto operator()(int i, int k) const { return spreadElement<T, Cut, transposed>(x, stride1, i, k); }
+  ZELM_INLINE auto operator()(int i, int k) const {
+#ifndef __AVX2__
+    if constexpr (inChunks) {
+      const int r = transposed ? k : i;
+      const int c = transposed ? i : k;
+      // A chunk that would end behind the object, or the row, is moved back.
+      const int before = packed ? r * N : 0;
+      const int from = smaller(before + c / Q * Q, (packed ? N * N : N) - Q);
+      return spreadLane(loadLanes<T>(x + (packed ? 0 : r * stride1) + from * static_cast<int64_t>(sizeof(T))),
+                        before + c - from);
+    } else
+#endif
+      return spreadElement<T, Cut, transposed>(x, stride1, i, k);
+  }
 };
 
 // Two objects side by side.
@@ -428,7 +438,7 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
     if constexpr (Single::src1)
       return SpreadSingle<T, N, Cut, transposed>(src1[0], stride1);
     else if constexpr (Cut::copies == 1)
-      return SpreadOne<T, Cut, transposed>{src1[k], stride1};
+      return SpreadOne<T, N, packed, Cut, transposed>{src1[k], stride1};
     else if constexpr (Cut::rowsAtOnce == 2 && !transposed)
       return SpreadRows<Cut, transposed>{loadRowPairs<T, N, packed, Cut>(src1[k], stride1)};
     else if constexpr (Cut::rowsAtOnce == 2)
@@ -492,7 +502,7 @@ template <class T, int first, int o = first / 3> ZELM_INLINE Lanes<T> loadStored
 
 // W packed objects of side 3 and one src2 for all: the rows of the result in lanes.
 template <class T, class Transposed12, bool past, int v = 0>
-ZELM_INLINE void multiplyTriples(const char* src1, const Tile<Lanes<T>, 3, 3>& second, char* dst) {
+ZELM_INLINE void multiplyTurned(const char* src1, const Tile<Lanes<T>, 3, 3>& second, char* dst) {
   constexpr int W = laneCount<T>;
   constexpr auto E = static_cast<int>(sizeof(T));
   Tile<Lanes<T>, 1, 3> first;
@@ -512,7 +522,42 @@ ZELM_INLINE void multiplyTriples(const char* src1, const Tile<Lanes<T>, 3, 3>& s
   else
     storeTurnedTriples<T, past>(dst + v * 3 * vectorBytes, result);
   if constexpr (v < 2)
-    multiplyTriples<T, Transposed12, past, v + 1>(src1, second, dst);
+    multiplyTurned<T, Transposed12, past, v + 1>(src1, second, dst);
+}
+
+// The same with lanes in the order of memory: the rows of src1 one behind the other, at least as many as a vector has
+// lanes.
+template <class T> struct SpreadTriples {
+  Lanes<T> factor[3][3]; // of vector v, term k
+
+  template <bool past, int v> ZELM_INLINE void multiply(const char* rows, char* dst) const {
+    const std::make_integer_sequence<int, laneCount<T>> lanes;
+    constexpr int E = sizeof(T);
+    const auto product = [&](int k) __attribute__((always_inline)) {
+      return factor[v][k] * spreadTriples<T, v>(rows + k * E, lanes);
+    };
+    putLanes<past>(dst + v * vectorBytes, product(0) + product(1) + product(2));
+  }
+};
+template <class T, bool transposed, bool past>
+ZELM_INLINE void multiplySpread(const char* src1, const char* src2, char* dst, int64_t rows) {
+  constexpr int W = laneCount<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  SpreadTriples<T> by;
+  ZELM_UNROLL
+  for (int v = 0; v < 3; ++v)
+    ZELM_UNROLL
+  for (int k = 0; k < 3; ++k)
+    by.factor[v][k] = lanesOf<Lanes<T>>([&](int w) {
+      const int j = (v * W + w) % 3;
+      return loadElement<T>(src2 + (transposed ? 3 * j + k : 3 * k + j) * E);
+    });
+  for (int64_t r = 0; r < rows; r += W) {
+    const int64_t at = (r + W <= rows ? r : rows - W) * 3 * E;
+    by.template multiply<past, 0>(src1 + at, dst + at);
+    by.template multiply<past, 1>(src1 + at, dst + at);
+    by.template multiply<past, 2>(src1 + at, dst + at);
+  }
 }
 
 // At least as many objects as a vector has lanes; the last ones are taken once more to end with the batch.
@@ -520,15 +565,19 @@ template <class T, class Transposed12, bool past = false>
 ZELM_NOINLINE void multiplyTriples(const char* src1, const char* src2, char* dst, int64_t count) {
   constexpr int64_t W = laneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
-  Tile<Lanes<T>, 3, 3> second;
-  ZELM_UNROLL
-  for (int k = 0; k < 3; ++k)
+  if constexpr (W >= 4 && !Transposed12::src1) {
+    multiplySpread<T, Transposed12::src2, past>(src1, src2, dst, 3 * count);
+  } else {
+    Tile<Lanes<T>, 3, 3> second;
     ZELM_UNROLL
-  for (int j = 0; j < 3; ++j)
-    second(k, j) = splat<Lanes<T>>(loadElement<T>(src2 + (Transposed12::src2 ? 3 * j + k : 3 * k + j) * E));
-  for (int64_t k = 0; k < count; k += W) {
-    const int64_t at = (k + W <= count ? k : count - W) * 9 * E;
-    multiplyTriples<T, Transposed12, past>(src1 + at, second, dst + at);
+    for (int k = 0; k < 3; ++k)
+      ZELM_UNROLL
+    for (int j = 0; j < 3; ++j)
+      second(k, j) = splat<Lanes<T>>(loadElement<T>(src2 + (Transposed12::src2 ? 3 * j + k : 3 * k + j) * E));
+    for (int64_t k = 0; k < count; k += W) {
+      const int64_t at = (k + W <= count ? k : count - W) * 9 * E;
+      multiplyTurned<T, Transposed12, past>(src1 + at, second, dst + at);
+    }
   }
 }
 
@@ -573,14 +622,13 @@ ZELM_NOINLINE void multiplyNines(const char* src1, const char* src2, char* dst, 
 }
 #endif
 
-// Where the rows of the result go in lanes; with four doubles a vector the stored rows of src1 do not pay for it.
-template <class T, int N, class Transposed12, class Single>
-constexpr bool byTriples = N == 3 && Single::src2 && (sizeof(T) == 4 || vectorBytes == 16 || Transposed12::src1);
+// Where the rows of the result go in lanes.
+template <int N, class Single> constexpr bool byTriples = N == 3 && Single::src2;
 
 // The objects of every operand that is not a single one follow each other without gaps.
 template <class T, int N, class Transposed12, class Single>
 ZELM_NOINLINE void multiplyRun(const char* src1, const char* src2, char* dst, int64_t count) {
-  if constexpr (byTriples<T, N, Transposed12, Single>) {
+  if constexpr (byTriples<N, Single>) {
     if (count >= laneCount<T>) {
 #ifndef __AVX2__
       if constexpr (sizeof(T) == 4 && Transposed12::src1) {
@@ -610,7 +658,7 @@ template <class T, int N, class Transposed12, class Single>
 ZELM_NOINLINE void multiplyStreaming(const char* src1, const char* src2, char* dst, int64_t count) {
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
   constexpr int64_t object = N * row;
-  constexpr bool triples = byTriples<T, N, Transposed12, Single>;
+  constexpr bool triples = byTriples<N, Single>;
   const auto first = [=](int64_t k) { return src1 + (Single::src1 ? 0 : k * object); };
   const auto second = [=](int64_t k) { return src2 + (Single::src2 ? 0 : k * object); };
   const auto multiplyCached = [=](int64_t from, int64_t end) {

@@ -350,19 +350,6 @@ ZELM_INLINE int64_t multiplyStraight(const A& stored, const B& src2, const C& sr
 // A single matrix and packed vectors: a lane is an element of a result. The matrix is held as columns, and what the
 // terms take of a vector is spread over the lanes, so that nothing is transposed.
 
-// lane w: element(w)
-template <class L, class F> ZELM_INLINE L lanesOf(const F& element) {
-  if constexpr (LaneTraits<L>::width == 1) {
-    return element(0);
-  } else {
-    L lanes;
-    ZELM_UNROLL
-    for (int w = 0; w < LaneTraits<L>::width; ++w)
-      lanes[w] = element(w);
-    return lanes;
-  }
-}
-
 // Element (i, j) of the matrix that multiplies, which is stored as it is or transposed.
 template <bool transposed, class View> ZELM_INLINE auto factor(const View& matrix, int i, int j) {
   return transposed ? matrix.load(j, i) : matrix.load(i, j);
@@ -384,11 +371,7 @@ template <class L, int N, int j> ZELM_INLINE L spread(const char* vector) {
   using T = ElementOf<L>;
   constexpr int Q = chunkElements<T>;
   constexpr int from = smaller(j / Q * Q, N - Q);
-  constexpr int lane = j - from;
-  // The shuffle of integers needs no copy of its operand.
-  const auto chunk = _mm_loadu_si128(reinterpret_cast<const __m128i*>(vector + from * static_cast<int>(sizeof(T))));
-  constexpr int order = sizeof(T) == 4 ? lane * 0x55 : lane == 0 ? 0x44 : 0xee;
-  return reinterpret_cast<L>(_mm_shuffle_epi32(chunk, order));
+  return spreadLane(loadLanes<T>(vector + from * static_cast<int>(sizeof(T))), j - from);
 }
 #endif
 
@@ -429,32 +412,6 @@ template <class L, class C, class F> ZELM_INLINE L holdAddend(const C& src3, con
     return lanesOf<L>([&](int w) { return src3.object(0).load(elementOfLane(w)); });
   else
     return L{};
-}
-
-// Three elements: W vectors lie in three vectors v of W lanes. Term j of lane w takes element j of vector
-// (v * W + w) / 3, which is lane of(w) of what lies `at` + j elements behind the first; lanes from W on are those of
-// the W elements behind.
-template <int W, int v> struct Window {
-  static constexpr int at = smaller(v * W / 3 * 3, 2 * W - 2);
-  static constexpr int of(int w) { return (v * W + w) / 3 * 3 - at; }
-  static constexpr bool isBehind(int lane) {
-    for (int w = 0; w < W; ++w)
-      if (of(w) == lane + W)
-        return true;
-    return false;
-  }
-  static constexpr bool reachesBehind = of(W - 1) >= W;
-};
-template <class T, int v, int... w>
-ZELM_INLINE Lanes<T> spreadTriples(const char* x, std::integer_sequence<int, w...>) {
-  constexpr int W = laneCount<T>;
-  using Of = Window<W, v>;
-  auto lanes = loadLanes<T>(x + Of::at * static_cast<int>(sizeof(T)));
-  if constexpr (Of::reachesBehind) {
-    const auto behind = loadLanes<T>(x + (Of::at + W) * static_cast<int>(sizeof(T)));
-    lanes = __builtin_shufflevector(lanes, behind, (Of::isBehind(w) ? w + W : w)...);
-  }
-  return __builtin_shufflevector(lanes, lanes, (Of::of(w) % W)...);
 }
 
 template <class Tree, class T> struct TripleVectors {
@@ -566,6 +523,9 @@ template <class Tree, class T, int N, int from = 0> struct Columns {
   L held;
   Rest rest;
 
+  // Where the columns fit the registers compilers are told to keep them there, or they may put some in memory.
+  static constexpr bool keepsColumns = sizeof(T) == 4 || N == 4;
+
   // Lanes that are not used have the values of the last row.
   static constexpr int rowOf(int w) { return from + smaller(w, used - 1); }
   static constexpr bool exchanges(int w) { return w > 0 && rowOf(w) == exchangingRow<Tree, N>; }
@@ -577,6 +537,10 @@ template <class Tree, class T, int N, int from = 0> struct Columns {
     ZELM_UNROLL
     for (int j = 0; j < N; ++j)
       column[j] = lanesOf<L>([&](int w) { return factor<transposed>(matrix, rowOf(w), termOf(j, w)); });
+    if constexpr (keepsColumns)
+      ZELM_UNROLL
+    for (int j = 0; j < N; ++j)
+      holdInRegister(column[j]);
     held = holdAddend<L>(src3, rowOf);
     if constexpr (from + W < N)
       rest.template hold<transposed>(matrix, src3);

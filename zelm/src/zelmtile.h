@@ -38,6 +38,43 @@ template <class L> ZELM_INLINE L splat(ElementOf<L> value) {
     return value - L{};
 }
 
+// Lane w: element(w).
+template <class L, class F> ZELM_INLINE L lanesOf(const F& element) {
+  if constexpr (LaneTraits<L>::width == 1) {
+    return element(0);
+  } else {
+    L lanes;
+    ZELM_UNROLL
+    for (int w = 0; w < LaneTraits<L>::width; ++w)
+      lanes[w] = element(w);
+    return lanes;
+  }
+}
+
+#ifndef __AVX2__
+// The same lane in all. Shuffles of integers need no copy of their operand.
+template <class V> ZELM_INLINE V spreadLane(const V& v, int lane) {
+  const auto bits = reinterpret_cast<__m128i>(v);
+  if (sizeof(v[0]) == 8)
+    return reinterpret_cast<V>(lane == 0 ? _mm_shuffle_epi32(bits, 0x44) : _mm_shuffle_epi32(bits, 0xee));
+  switch (lane) {
+  case 0:
+    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0x00));
+  case 1:
+    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0x55));
+  case 2:
+    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0xaa));
+  default:
+    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0xff));
+  }
+}
+#endif
+
+// The compiler keeps the value in a register here: it neither reads it from memory again nor forms it later.
+template <class V> ZELM_INLINE void holdInRegister(V& v) {
+  asm volatile("" : "+x"(v));
+}
+
 template <class L, int R, int C> struct Tile {
   L element[R * C];
   ZELM_INLINE L& operator()(int i, int j) { return element[i * C + j]; }

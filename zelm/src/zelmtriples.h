@@ -142,4 +142,33 @@ template <class T, bool Stream = false> ZELM_INLINE void storeTurnedTriples(char
 }
 #endif
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Triples times what is the same for all: lanes in the order of memory, and nothing is turned
+
+// Three elements: W vectors lie in three vectors v of W lanes. Term j of lane w takes element j of vector
+// (v * W + w) / 3, which is lane of(w) of what lies `at` + j elements behind the first; lanes from W on are those of
+// the W elements behind.
+template <int W, int v> struct Window {
+  static constexpr int at = smaller(v * W / 3 * 3, 2 * W - 2);
+  static constexpr int of(int w) { return (v * W + w) / 3 * 3 - at; }
+  static constexpr bool isBehind(int lane) {
+    for (int w = 0; w < W; ++w)
+      if (of(w) == lane + W)
+        return true;
+    return false;
+  }
+  static constexpr bool reachesBehind = of(W - 1) >= W;
+};
+template <class T, int v, int... w>
+ZELM_INLINE Lanes<T> spreadTriples(const char* x, std::integer_sequence<int, w...>) {
+  constexpr int W = laneCount<T>;
+  using Of = Window<W, v>;
+  auto lanes = loadLanes<T>(x + Of::at * static_cast<int>(sizeof(T)));
+  if constexpr (Of::reachesBehind) {
+    const auto behind = loadLanes<T>(x + (Of::at + W) * static_cast<int>(sizeof(T)));
+    lanes = __builtin_shufflevector(lanes, behind, (Of::isBehind(w) ? w + W : w)...);
+  }
+  return __builtin_shufflevector(lanes, lanes, (Of::of(w) % W)...);
+}
+
 } // namespace zelm
