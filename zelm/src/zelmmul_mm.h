@@ -136,10 +136,8 @@ template <class T, int N, bool turned, bool past = false> struct RowVectors {
     Vector row[N][perRow];
     ZELM_INLINE const Vector& operator()(int i, int v) const { return row[i][v]; }
   };
-  // The sums of some rows of the result run side by side, and a vector of src2 is loaded once for all of them, where
-  // the rows of src2 are too many for the registers, and where that has been measured to be quicker.
+  // Are the rows of src2 too many for the registers?
   static constexpr bool overflows = N * perRow >= 12;
-  static constexpr bool quickTogether = vectorBytes == 16 && N == (sizeof(T) == 4 ? 4 : 3);
   static constexpr int rowsTogether = N == 6 ? 3 : smaller(N, 9 / perRow);
 };
 
@@ -419,6 +417,58 @@ ZELM_INLINE void multiplyTogether(const Spread& a, const Rows& b, const Group<ch
     multiplyTogether<T, N, packed, Cut, i + R>(a, b, d, stride1);
 }
 
+// Six doubles in vectors of four: the two that a vector leaves over go with those of the next row.
+template <class T, int N, bool turned>
+constexpr bool joinsTails = sizeof(T) == 8 && N == 6 && vectorBytes == 32 && !turned;
+#ifdef __AVX2__
+struct SixRows {
+  const char* x;
+  int64_t stride1;
+  ZELM_INLINE Lanes<double> head(int k) const { return loadLanes<double>(x + k * stride1); }
+  // Twice.
+  ZELM_INLINE Lanes<double> tail(int k) const {
+    return _mm256_broadcast_pd(reinterpret_cast<const __m128d*>(x + k * stride1 + 32));
+  }
+};
+
+template <class Cut, class Spread>
+ZELM_INLINE void multiplySixes(const Spread& a, const SixRows& b, char* d, int64_t stride1) {
+  using V = Lanes<double>;
+  V head[6];
+  V tails[3]; // of rows 2 p and 2 p + 1
+  ZELM_UNROLL
+  for (int k = 0; k < 6; ++k) {
+    const V secondHead = b.head(k);
+    const V secondTail = b.tail(k);
+    ZELM_UNROLL
+    for (int p = 0; p < 3; ++p) {
+      V even = a(2 * p, k);
+      V odd = a(2 * p + 1, k);
+      // Otherwise compilers see where the lanes come from and load them once more.
+      holdInRegister(even);
+      holdInRegister(odd);
+      const V both = __builtin_shufflevector(even, odd, 0, 1, 6, 7);
+      head[2 * p] = k == 0 ? even * secondHead : head[2 * p] + even * secondHead;
+      head[2 * p + 1] = k == 0 ? odd * secondHead : head[2 * p + 1] + odd * secondHead;
+      tails[p] = k == 0 ? both * secondTail : tails[p] + both * secondTail;
+      holdInRegister(head[2 * p]);
+      holdInRegister(head[2 * p + 1]);
+      holdInRegister(tails[p]);
+    }
+  }
+  ZELM_UNROLL
+  for (int i = 0; i < 6; ++i) {
+    char* const row = d + i * stride1;
+    const auto tail = i % 2 == 0 ? lowHalf(tails[i / 2]) : highHalf(tails[i / 2]);
+    if constexpr (Cut::pastCaches)
+      streamFrom(row, head[i], 0);
+    else
+      storeLanes(row, head[i]);
+    putLanes<Cut::pastCaches>(row + 32, tail);
+  }
+}
+#endif
+
 template <bool first, bool second> struct Which {
   static constexpr bool src1 = first;
   static constexpr bool src2 = second;
@@ -430,7 +480,10 @@ template <class T, int N, class Transposed12, class Single, bool packed, bool pa
 ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_t count) {
   using Cut = RowVectors<T, N, Transposed12::src2, past>;
   constexpr bool transposed = Transposed12::src1;
-  constexpr bool together = (Cut::overflows && !Single::src2 && !Transposed12::src2) || Cut::quickTogether;
+  // The sums of some rows of the result run side by side, and a vector of src2 is loaded once for all of them, where
+  // its rows overflow the registers, and where that has been measured to be quicker.
+  constexpr bool quickTogether = vectorBytes == 16 && N == 4 && (sizeof(T) == 4 || Single::src1);
+  constexpr bool together = (Cut::overflows && !Single::src2 && !Transposed12::src2) || quickTogether;
   constexpr int64_t step = Cut::objectsAtOnce;
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
   const auto firstOf = [&](int64_t k) __attribute__((always_inline)) {
@@ -449,7 +502,12 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
   const auto secondOf = [&](int64_t k) __attribute__((always_inline)) {
     const int64_t stride1 = packed ? row : src2.stride1;
     const auto group = groupOf<Cut>(src2, k, Single::src2 ? 1 : count);
-    if constexpr (Transposed12::src2)
+#ifdef __AVX2__
+    if constexpr (joinsTails<T, N, Transposed12::src2>)
+      return SixRows{group.of[0], stride1};
+    else
+#endif
+        if constexpr (Transposed12::src2)
       return loadColumns<T, N, packed, Cut>(group, stride1);
     else if constexpr (together && !Single::src2)
       return RowsInMemory<T, N, packed, Cut>{group, stride1};
@@ -461,7 +519,12 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
     auto group = groupOf<Cut>(dst, k, count);
     if constexpr (Cut::rowsAtOnce == 2)
       group.of[1] += stride1;
-    if constexpr (together)
+#ifdef __AVX2__
+    if constexpr (joinsTails<T, N, Transposed12::src2>)
+      multiplySixes<Cut>(a, b, group.of[0], stride1);
+    else
+#endif
+        if constexpr (together)
       multiplyTogether<T, N, packed, Cut>(a, b, group, stride1);
     else
       multiplyGroup<T, N, packed, Cut>(a, b, group, stride1);

@@ -453,8 +453,8 @@ ZELM_INLINE int64_t multiplyTriples(const A& stored, const PackedObjects<const T
 }
 
 // Four elements, of which a sum adds pairs at a distance of `inner` and then the two sums: a lane may take its terms in
-// any order that keeps the pairs. Lane w first takes element w, then the one `inner` off; the other pair is summed in
-// the lane that has its elements, `outer` off.
+// any order that keeps the pairs. The lanes of a vector sum one pair of their own rows and, as the others' rows are
+// `outer` off, the same pair of those; crossing the second brings both sums of a row together.
 template <class Tree> struct Crosswise { static constexpr int inner = 0; };
 template <> struct Crosswise<EvenOdd> {
   static constexpr int inner = 2;
@@ -467,37 +467,75 @@ template <> struct Crosswise<Pairs32> {
 template <int distance, class L, int... w> ZELM_INLINE L crossed(const L& lanes, std::integer_sequence<int, w...>) {
   return __builtin_shufflevector(lanes, lanes, (w ^ distance)...);
 }
-template <class Tree, bool transposed, class A, class T, class C>
-ZELM_INLINE int64_t multiplyFours(const A& stored, const PackedObjects<const T, 4>& src2, const C& src3,
-                                  const PackedObjects<T, 4>& dst, int64_t end) {
-  using L = Lanes<T>;
+
+// The elements that the lanes take of a vector: lane w element firstOf(w), then the one `inner` off.
+template <int inner> struct PairsOfFour {
+  using L = Lanes<float>;
+#ifdef __AVX2__
+  // Loads that fill two lanes with an element cost no shuffle.
+  static constexpr int firstOf(int w) {
+    return w & ~inner;
+  }
+  ZELM_INLINE static L first(const char* x) {
+    return inner == 1 ? _mm256_moveldup_ps(loadLanes<float>(x))
+                      : _mm256_castpd_ps(_mm256_movedup_pd(loadLanes<double>(x)));
+  }
+  // Unless it is the last vector, what lies behind it may be read.
+  template <bool last> ZELM_INLINE static L second(const char* x) {
+    if constexpr (inner == 1)
+      return _mm256_movehdup_ps(loadLanes<float>(x));
+    else if constexpr (last)
+      return _mm256_castpd_ps(_mm256_permute_pd(loadLanes<double>(x), 0xf));
+    else
+      return _mm256_castpd_ps(_mm256_movedup_pd(loadLanes<double>(x + 8)));
+  }
+#else
+  static constexpr int firstOf(int w) {
+    return w;
+  }
+  ZELM_INLINE static L first(const char* x) {
+    return loadLanes<float>(x);
+  }
+  template <bool last> ZELM_INLINE static L second(const char* x) {
+    return crossed<inner>(loadLanes<float>(x), std::make_integer_sequence<int, 4>{});
+  }
+#endif
+};
+
+template <class Tree, bool transposed, class A, class C>
+ZELM_INLINE int64_t multiplyFours(const A& stored, const PackedObjects<const float, 4>& src2, const C& src3,
+                                  const PackedObjects<float, 4>& dst, int64_t end) {
+  using L = Lanes<float>;
+  using Pairs = PairsOfFour<Crosswise<Tree>::inner>;
   constexpr int inner = Crosswise<Tree>::inner;
   constexpr int outer = Crosswise<Tree>::outer;
-  const std::make_integer_sequence<int, laneCount<T>> lanes;
+  const std::make_integer_sequence<int, laneCount<float>> lanes;
   const auto matrix = stored.object(0, 4);
-  // What lane w multiplies for the element `row` off with its own element and the one `inner` off.
+  // What lane w multiplies its element by, or the one `column` off, for row w or the one `row` off.
   const auto hold = [&](int row, int column) {
-    return lanesOf<L>([&](int w) { return factor<transposed>(matrix, (w ^ row) % 4, (w ^ column) % 4); });
+    return lanesOf<L>(
+        [&](int w) { return factor<transposed>(matrix, (w ^ row) % 4, (Pairs::firstOf(w) ^ column) % 4); });
   };
   const L own = hold(0, 0);
   const L paired = hold(0, inner);
   const L othersOwn = hold(outer, 0);
   const L othersPaired = hold(outer, inner);
   const L held = holdAddend<L>(src3, [](int w) { return w % 4; });
-  int64_t k = 0;
-  constexpr int64_t width = laneCount<T> / 4;
-  const auto multiplyAt = [&](int64_t offset) {
-    const L x = loadLanes<T>(src2.first + offset);
-    const L y = crossed<inner>(x, lanes);
+  constexpr int64_t width = laneCount<float> / 4;
+  const auto multiplyAt = [&](int64_t k, auto last) __attribute__((always_inline)) {
+    const int64_t offset = k * dst.bytes;
+    const L x = Pairs::first(src2.first + offset);
+    const L y = Pairs::template second<last>(src2.first + offset);
     const L sum = (own * x + paired * y) + crossed<outer>(othersOwn * x + othersPaired * y, lanes);
     storeLanes(dst.first + offset, addTo(sum, src3, offset, held));
   };
-  for (; k + 2 * width <= end; k += 2 * width) {
-    multiplyAt(k * dst.bytes);
-    multiplyAt((k + width) * dst.bytes);
+  int64_t k = 0;
+  for (; k + 2 * width < end; k += 2 * width) {
+    multiplyAt(k, std::false_type{});
+    multiplyAt(k + width, std::false_type{});
   }
   for (; k + width <= end; k += width)
-    multiplyAt(k * dst.bytes);
+    multiplyAt(k, std::true_type{});
   return k;
 }
 
