@@ -566,15 +566,12 @@ template <class Tree, class T, int N, int from = 0> struct Columns {
 
   // Lanes that are not used have the values of the last row.
   static constexpr int rowOf(int w) { return from + smaller(w, used - 1); }
-  static constexpr bool exchanges(int w) { return w > 0 && rowOf(w) == exchangingRow<Tree, N>; }
+  static constexpr bool exchanges(int w) { return w > 0 && w < used && rowOf(w) == exchangingRow<Tree, N>; }
   static constexpr bool hasExchange = exchanges(used - 1);
-  // The term that lane w adds in the place of term j of lane 0.
-  static constexpr int termOf(int j, int w) { return exchanges(w) && (j == 1 || j == 2) ? 3 - j : j; }
-
   template <bool transposed, class View, class C> ZELM_INLINE void hold(const View& matrix, const C& src3) {
     ZELM_UNROLL
     for (int j = 0; j < N; ++j)
-      column[j] = lanesOf<L>([&](int w) { return factor<transposed>(matrix, rowOf(w), termOf(j, w)); });
+      column[j] = lanesOf<L>([&](int w) { return factor<transposed>(matrix, rowOf(w), j); });
     if constexpr (keepsColumns)
       ZELM_UNROLL
     for (int j = 0; j < N; ++j)
@@ -601,6 +598,12 @@ template <class Tree, class T, int N, int from = 0> struct Columns {
     ZELM_UNROLL
     for (int j = 0; j < N; ++j)
       term[j] = column[j] * narrow<L>(x[j]);
+    if constexpr (hasExchange) {
+      const std::make_integer_sequence<int, W> lanes;
+      const L second = exchange(term[1], term[2], lanes);
+      term[2] = exchange(term[2], term[1], lanes);
+      term[1] = second;
+    }
     const int64_t at = offset + from * static_cast<int>(sizeof(T));
     const L sum = addTo<half>(Tree::of(from, term), src3, at, held);
     if constexpr (from + W < N)
@@ -615,12 +618,6 @@ template <class Tree, class T, int N, int from = 0> struct Columns {
   template <class C> ZELM_INLINE void multiply(const char* src2, const C& src3, char* dst, int64_t offset) const {
     L x[N];
     spreadAll(src2 + offset, x, std::make_integer_sequence<int, N>{});
-    if constexpr (hasExchange) {
-      const std::make_integer_sequence<int, W> lanes;
-      const L second = exchange(x[1], x[2], lanes);
-      x[2] = exchange(x[2], x[1], lanes);
-      x[1] = second;
-    }
     multiplySpread(x, src3, dst, offset);
   }
 };
