@@ -160,14 +160,14 @@ template <class T, class Body> ZELM_INLINE void forLanes(int64_t k, int64_t coun
 
 // The first element of objects k, k + 1, ...: matrices, vectors, and plain arrays of `each` elements an object. Calls
 // of their own: inlined into every size of every kernel they would be larger than all the arithmetic.
-template <class Operand> __attribute__((noinline)) auto matrixAddresses(const Operand& x, int64_t k, int64_t count) {
+template <class Operand> ZELM_NOINLINE auto matrixAddresses(const Operand& x, int64_t k, int64_t count) {
   using T = typename Operand::Element;
   using C = std::remove_pointer_t<decltype(x.object(0, 0).address(0, 0))>;
   ObjectAddresses<T, C> addresses;
   forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.object(object, 0).address(0, 0); });
   return addresses;
 }
-template <class Operand> __attribute__((noinline)) auto vectorAddresses(const Operand& x, int64_t k, int64_t count) {
+template <class Operand> ZELM_NOINLINE auto vectorAddresses(const Operand& x, int64_t k, int64_t count) {
   using T = typename Operand::Element;
   using C = std::remove_pointer_t<decltype(x.object(0).address(0))>;
   ObjectAddresses<T, C> addresses;
@@ -186,7 +186,7 @@ template <int N, class T, class I> struct PlainRun {
     return addresses;
   }
 };
-template <class T, class I> __attribute__((noinline)) auto plainAddresses(const Plain<I>& x, int64_t k, int64_t count) {
+template <class T, class I> ZELM_NOINLINE auto plainAddresses(const Plain<I>& x, int64_t k, int64_t count) {
   PlainAddresses<T, I> addresses;
   forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.pointer + object * x.each; });
   return addresses;
@@ -281,7 +281,7 @@ template <class T> ZELM_INLINE std::intptr_t objectOffset(const VectorsP<T>& x, 
   return x.offset + k * x.stride0;
 }
 
-template <class Operand> __attribute__((noinline)) auto objectOffsets(const Operand& x, int64_t k, int64_t count) {
+template <class Operand> ZELM_NOINLINE auto objectOffsets(const Operand& x, int64_t k, int64_t count) {
   using T = typename Operand::Element;
   ObjectOffsets<T> offsets;
   forLanes<T>(k, count, [&](int w, int64_t object) { offsets.of[w] = objectOffset(x, object); });

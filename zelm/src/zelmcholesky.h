@@ -184,8 +184,8 @@ ZELM_INLINE ZelStatus choleskyFactors(Pivots pivots, const Source& src, const Re
 
 // A block of two vectors full; nothing is stored unless every lane has all its pivots.
 template <int N, class Source, class Result>
-__attribute__((noinline)) bool choleskyFactorBlock(const Source& srcLow, const Source& srcHigh, const Result& dstLow,
-                                                   const Result& dstHigh, typename Result::Element limit) {
+ZELM_NOINLINE bool choleskyFactorBlock(const Source& srcLow, const Source& srcHigh, const Result& dstLow,
+                                       const Result& dstHigh, typename Result::Element limit) {
   using V = Lanes<typename Result::Element>;
   using L = Pair<V>;
   L element[triangleElements<N>];
@@ -303,7 +303,7 @@ ZELM_INLINE void choleskySolveLanes(const L* factor, const Right& right, const R
 
 // A factor for each lane.
 template <int N, class Factor, class Right, class Result>
-__attribute__((noinline)) void choleskySolveBlock(const Factor& factor, const Right& right, const Result& dst) {
+ZELM_NOINLINE void choleskySolveBlock(const Factor& factor, const Right& right, const Result& dst) {
   using L = Lanes<typename Result::Element>;
   L element[triangleElements<N>];
   ascending(Fixed<0>{}, Fixed<N>{},
@@ -313,7 +313,7 @@ __attribute__((noinline)) void choleskySolveBlock(const Factor& factor, const Ri
 
 // One factor for all lanes.
 template <int N, class L, class Right, class Result>
-__attribute__((noinline)) void choleskySolveBlock(const L* factor, const Right& right, const Result& dst) {
+ZELM_NOINLINE void choleskySolveBlock(const L* factor, const Right& right, const Result& dst) {
   choleskySolveLanes<N>(factor, right, dst);
 }
 

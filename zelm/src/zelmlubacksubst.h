@@ -105,8 +105,7 @@ ZELM_INLINE void substituteOne(const LuFactors<T, N>& f, const int32_t* p, const
 // One matrix, a block of right-hand sides
 
 template <int N, class T>
-__attribute__((noinline)) void substituteBlock(const LuFactors<Lanes<T>, N>& f, const int32_t* p,
-                                               Tile<Lanes<T>, 1, N>& b) {
+ZELM_NOINLINE void substituteBlock(const LuFactors<Lanes<T>, N>& f, const int32_t* p, Tile<Lanes<T>, 1, N>& b) {
   Tile<Lanes<T>, 1, N> x;
   ZELM_UNROLL
   for (int i = 0; i < N; ++i)
@@ -194,9 +193,9 @@ ZELM_INLINE void loadIndex(const PlainAddresses<T, const int32_t>& index, Intege
 }
 
 template <int N, class T>
-__attribute__((noinline)) void
-substituteRows(const ObjectAddresses<T, const char>& src1, int64_t step, const PlainAddresses<T, const int32_t>& index,
-               const ObjectAddresses<T, const char>& src2, const ObjectAddresses<T, char>& dst) {
+ZELM_NOINLINE void substituteRows(const ObjectAddresses<T, const char>& src1, int64_t step,
+                                  const PlainAddresses<T, const int32_t>& index,
+                                  const ObjectAddresses<T, const char>& src2, const ObjectAddresses<T, char>& dst) {
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   LuFactors<Lanes<T>, N> f;
   Tile<Lanes<T>, 1, N> x;
@@ -216,10 +215,9 @@ substituteRows(const ObjectAddresses<T, const char>& src1, int64_t step, const P
 
 // False, and nothing stored, if an index has a row twice.
 template <int N, class T, class Objects, class Index>
-__attribute__((noinline)) bool substituteElements(const Positions<N * N>& src1Positions, const Objects& src1,
-                                                  const Index& index, const Positions<N>& src2Positions,
-                                                  const Objects& src2, const Positions<N>& dstPositions,
-                                                  const Objects& dst) {
+ZELM_NOINLINE bool substituteElements(const Positions<N * N>& src1Positions, const Objects& src1, const Index& index,
+                                      const Positions<N>& src2Positions, const Objects& src2,
+                                      const Positions<N>& dstPositions, const Objects& dst) {
   using L = Lanes<T>;
   LuFactors<L, N> f;
   Tile<L, 1, N> x;

@@ -116,7 +116,7 @@ template <int K, class T, int N> ZELM_INLINE int eliminate(Tile<T, N, N>& a, [[m
   }
 }
 
-template <int N, class T> __attribute__((noinline)) int eliminateOne(Tile<T, N, N>& a, int32_t (&p)[N]) {
+template <int N, class T> ZELM_NOINLINE int eliminateOne(Tile<T, N, N>& a, int32_t (&p)[N]) {
   for (int i = 0; i < N; ++i)
     p[i] = i;
   return eliminate<0>(a, p);
@@ -277,9 +277,9 @@ ZELM_INLINE void storeIndex(const PlainAddresses<T, int32_t>& index, const Integ
 // False, and nothing stored, if an object of the block is singular. Rows of at least a chunk are stored where they
 // belong by address, shorter ones and single elements in the order of the source.
 template <int N, class T>
-__attribute__((noinline)) bool decomposeRows(const ObjectAddresses<T, const char>& src, int64_t srcStep,
-                                             const PlainAddresses<T, int32_t>& index,
-                                             const ObjectAddresses<T, char>& dst, int64_t dstStep) {
+ZELM_NOINLINE bool decomposeRows(const ObjectAddresses<T, const char>& src, int64_t srcStep,
+                                 const PlainAddresses<T, int32_t>& index, const ObjectAddresses<T, char>& dst,
+                                 int64_t dstStep) {
   constexpr bool byAddress = N >= chunkElements<T>;
   Tile<Lanes<T>, N, N> a;
   loadRows(src, srcStep, a);
@@ -308,9 +308,8 @@ __attribute__((noinline)) bool decomposeRows(const ObjectAddresses<T, const char
 }
 
 template <int N, class T, class Objects, class Index>
-__attribute__((noinline)) bool decomposeElements(const Positions<N * N>& srcPositions, const Objects& src,
-                                                 const Index& index, const Positions<N * N>& dstPositions,
-                                                 const Objects& dst) {
+ZELM_NOINLINE bool decomposeElements(const Positions<N * N>& srcPositions, const Objects& src, const Index& index,
+                                     const Positions<N * N>& dstPositions, const Objects& dst) {
   LuBlock<T, N, false> block;
   if (!block.eliminate([&](auto i, auto j) ZELM_BODY { return src.load(srcPositions.of[i * N + j]); }))
     return false;

@@ -8,8 +8,6 @@
 #include "zelmmulsignature.h"
 #include "zelmtriples.h"
 
-#define ZELM_NOINLINE __attribute__((noinline))
-
 namespace zelm {
 
 // sum[v] = a(0) * b(0, v) + a(1) * b(1, v) + ..., from the left, for the V columns of a row.

@@ -874,7 +874,7 @@ template <int Elements, class Operand> ZELM_INLINE auto asPacked(const Operand& 
 
 // On its own and with copies of the operands: registers for all that a batch holds, which no store can change.
 template <class Tree, int N, bool transposed, class A, class B, class C, class D>
-__attribute__((noinline)) int64_t multiplyPacked(A stored, B src2, C src3, D dst, int64_t count) {
+ZELM_NOINLINE int64_t multiplyPacked(A stored, B src2, C src3, D dst, int64_t count) {
   using T = typename D::Element;
   if constexpr (!A::isArray && N == 3 && laneCount<T> >= 4)
     return multiplyTriples<Tree, transposed>(stored, src2, src3, dst, count);

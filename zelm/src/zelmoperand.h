@@ -19,6 +19,8 @@
 #endif
 
 #define ZELM_INLINE inline __attribute__((always_inline))
+// A function of its own: called from several places, or seldom, or for registers that nothing else needs.
+#define ZELM_NOINLINE __attribute__((noinline))
 
 namespace zelm {
 

@@ -29,9 +29,6 @@
 #define QR_SOLVE_MAVA_P(V, T)    QR_SOLVE(V, T, MA_P, VA_P, VA_P), V##_COUNT
 // clang-format on
 
-// A lambda that is a function of its own: called from several places, or seldom.
-#define ZELM_CALL __attribute__((noinline))
-
 namespace zelm {
 
 // The agreement of the sizes, which follow the operands: at least as many rows as columns.
@@ -222,8 +219,7 @@ template <class F> ZELM_INLINE auto forQrShape(int width, int height, const F& b
 
 // Two vectors of objects at a time, so that one chain of roots, divisions and
 // sums fills the gaps of the other.
-template <class V>
-__attribute__((noinline)) bool qrReduceLanes(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
+template <class V> ZELM_NOINLINE bool qrReduceLanes(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
   using L = Pair<V>;
   return forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
     return qrReduce<L>(Rectangle<L, decltype(w)>{{low.element, high.element}, w}, Column<L>{low.vector, high.vector}, w,
@@ -231,7 +227,7 @@ __attribute__((noinline)) bool qrReduceLanes(QrScratch<V>& low, QrScratch<V>& hi
   });
 }
 
-template <class V> __attribute__((noinline)) void qrDenominators(QrScratch<V>& scratch, int width, int height) {
+template <class V> ZELM_NOINLINE void qrDenominators(QrScratch<V>& scratch, int width, int height) {
   const Rectangle<V, int> a{{scratch.element}, width};
   for (int k = 0; k < qrSteps(width, height); ++k)
     scratch.denominator[k] = qrDenominator<V>(a, k, height);
@@ -239,8 +235,7 @@ template <class V> __attribute__((noinline)) void qrDenominators(QrScratch<V>& s
 
 // The right-hand sides stand in the scratch vectors, and so do the solutions. Every lane has its own matrix; of the
 // shapes with straight-line code only 6 by 6 comes here.
-template <class V>
-__attribute__((noinline)) void qrSolveEach(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
+template <class V> ZELM_NOINLINE void qrSolveEach(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
   using L = Pair<V>;
   const auto solve = [&](auto w, auto h) ZELM_BODY {
     const Rectangle<L, decltype(w)> a{{low.element, high.element}, w};
@@ -255,8 +250,7 @@ __attribute__((noinline)) void qrSolveEach(QrScratch<V>& low, QrScratch<V>& high
 }
 
 // The one matrix and its denominators are in low.
-template <class V>
-__attribute__((noinline)) void qrSolveOne(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
+template <class V> ZELM_NOINLINE void qrSolveOne(QrScratch<V>& low, QrScratch<V>& high, int width, int height) {
   using L = Pair<V>;
   forQrShape(width, height, [&](auto w, auto h) ZELM_BODY {
     const Rectangle<L, decltype(w)> a{{low.element, low.element}, w};
@@ -285,14 +279,14 @@ ZELM_INLINE void storeElements(const Objects& objects, const L* lanes, Width wid
 
 // Calls of their own: a shape that the compiler knows, if the lanes are neighbours or come from neighbouring elements.
 template <class Objects, class L>
-__attribute__((noinline)) void loadRectangle(const Objects& objects, L* lanes, int width, int height) {
+ZELM_NOINLINE void loadRectangle(const Objects& objects, L* lanes, int width, int height) {
   if constexpr (Objects::straight)
     forQrShape(width, height, [&](auto w, auto h) ZELM_BODY { loadElements(objects, lanes, w, h); });
   else
     loadElements(objects, lanes, width, height);
 }
 template <class Objects, class L>
-__attribute__((noinline)) void storeRectangle(const Objects& objects, const L* lanes, int width, int height) {
+ZELM_NOINLINE void storeRectangle(const Objects& objects, const L* lanes, int width, int height) {
   if constexpr (Objects::straight)
     forQrShape(width, height, [&](auto w, auto h) ZELM_BODY { storeElements(objects, lanes, w, h); });
   else
@@ -328,7 +322,7 @@ template <class T> constexpr bool qrInRegisters<MatricesP<T>, Fixed<4>, Fixed<4>
 template <class T> constexpr bool qrInRegisters<MatricesP<T>, Fixed<3>, Fixed<6>> = true;
 
 template <class V, class Source, class Result, class Width, class Height>
-__attribute__((noinline)) bool qrFactorStraight(const Source& src, const Result& dst, Width width, Height height) {
+ZELM_NOINLINE bool qrFactorStraight(const Source& src, const Result& dst, Width width, Height height) {
   V element[width * height];
   V vector[height];
   loadElements(src, element, width, height);
@@ -342,12 +336,12 @@ __attribute__((noinline)) bool qrFactorStraight(const Source& src, const Result&
 template <class T, class Source, class Result>
 ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
                                 int32_t height, int32_t count) {
-  const auto single = [=](int64_t k) ZELM_CALL {
+  const auto single = [=](int64_t k) ZELM_NOINLINE {
     return qrFactor<T>(src.object(k, width), buffer.pointer, dst.object(k, width), width, height);
   };
   constexpr int W = laneCount<T>;
   const bool neighbours = areNeighbours(src) && areNeighbours(dst);
-  const auto throughMemory = [=]() ZELM_CALL {
+  const auto throughMemory = [=]() ZELM_NOINLINE {
     const bool inLanes = count > 1 && qrFitsLanes(width, height);
     QrScratch<Lanes<T>> scratch[2];
     auto sources = matrixBlocks(src, width);
@@ -417,8 +411,8 @@ template <class Matrix, class Width, class Height> constexpr bool qrSolvesStraig
 template <class Matrix> constexpr bool qrSolvesStraight<Matrix, Fixed<6>, Fixed<6>> = isPointerLayout<Matrix>;
 
 template <class V, class Matrix, class Right, class Result, class Width, class Height>
-__attribute__((noinline)) void qrSolveStraight(const Matrix& src1, const Right& src2, const Result& dst, Width width,
-                                               Height height) {
+ZELM_NOINLINE void qrSolveStraight(const Matrix& src1, const Right& src2, const Result& dst, Width width,
+                                   Height height) {
   V element[width * height];
   V vector[height];
   loadElements(src1, element, width, height);
@@ -435,7 +429,7 @@ template <class T, class Matrix, class Right, class Result>
 ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
                                   const Result& dst, int32_t width, int32_t height, int32_t count) {
   constexpr bool each = Matrix::isArray;
-  const auto single = [=](int64_t k) ZELM_CALL {
+  const auto single = [=](int64_t k) ZELM_NOINLINE {
     qrSolution<T>(src1.object(k, width), buffer.pointer, src2.object(k), dst.object(k), width, height);
     return zelStatusOk;
   };
@@ -444,7 +438,7 @@ ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>&
   if constexpr (each)
     allNeighbours = allNeighbours && areNeighbours(src1);
   const bool neighbours = allNeighbours;
-  const auto throughMemory = [=]() ZELM_CALL {
+  const auto throughMemory = [=]() ZELM_NOINLINE {
     const bool inLanes = count > 1 && qrFitsLanes(width, height);
     QrScratch<Lanes<T>> scratch[2];
     [[maybe_unused]] auto matrices = matrixBlocks(src1, width);
