@@ -804,6 +804,69 @@ template <class T, bool single> ZELM_INLINE Lanes<T> loadNeighbours(const char* 
     return loadLanes<T>(x + offset);
 }
 
+// Positions at the same distance from each other, one after the other: a step costs an addition, where a list costs a
+// load.
+template <class C> class Walk {
+public:
+  ZELM_INLINE Walk(C* first, int64_t step) : at_(first), step_(step) {}
+  ZELM_INLINE C* next() {
+    C* const here = at_;
+    at_ += step_;
+    asm volatile("" : "+r"(at_)); // compilers would keep every position in memory
+    return here;
+  }
+  ZELM_INLINE Walk from(int position, int64_t offset) const { return {at_ + position * step_ + offset, step_}; }
+
+private:
+  C* at_;
+  int64_t step_;
+};
+
+template <class C, int N> ZELM_INLINE int64_t stepOf(const ElementAddresses<C, N>& x) {
+  return reinterpret_cast<std::intptr_t>(x.at[1]) - reinterpret_cast<std::intptr_t>(x.at[0]);
+}
+template <class C, int N> ZELM_INLINE bool isWalk(const ElementAddresses<C, N>& x) {
+  bool even = true;
+  for (int e = 2; e < N * N; ++e)
+    even &= reinterpret_cast<std::intptr_t>(x.at[e]) - reinterpret_cast<std::intptr_t>(x.at[0]) == e * stepOf(x);
+  return even;
+}
+
+// Rows of the result from i on, two at a time, which share the loads of src2.
+template <class T, int N, class Single, int i = 0>
+ZELM_INLINE void multiplyWalking(const Walk<const char>& src1, const Walk<const char>& src2, const Walk<char>& dst,
+                                 int64_t offset) {
+  constexpr int R = smaller(N - i, 2);
+  const auto rowOfFirst = [&](int r) { return src1.from((i + r) * N, Single::src1 ? 0 : offset); };
+  Walk<const char> first[2] = {rowOfFirst(0), rowOfFirst(R - 1)};
+  Walk<const char> second = src2.from(0, Single::src2 ? 0 : offset);
+  Lanes<T> sum[R][N];
+  ZELM_UNROLL
+  for (int k = 0; k < N; ++k) {
+    Lanes<T> factor[R];
+    ZELM_UNROLL
+    for (int r = 0; r < R; ++r)
+      factor[r] = loadNeighbours<T, Single::src1>(first[r].next(), 0);
+    ZELM_UNROLL
+    for (int j = 0; j < N; ++j) {
+      const Lanes<T> b = loadNeighbours<T, Single::src2>(second.next(), 0);
+      ZELM_UNROLL
+      for (int r = 0; r < R; ++r) {
+        sum[r][j] = k == 0 ? factor[r] * b : sum[r][j] + factor[r] * b;
+        holdInRegister(sum[r][j]);
+      }
+    }
+  }
+  Walk<char> result = dst.from(i * N, offset);
+  ZELM_UNROLL
+  for (int r = 0; r < R; ++r)
+    ZELM_UNROLL
+  for (int j = 0; j < N; ++j)
+    storeLanes(result.next(), sum[r][j]);
+  if constexpr (i + R < N)
+    multiplyWalking<T, N, Single, i + R>(src1, src2, dst, offset);
+}
+
 // At least as many objects as a vector has lanes; the last vector is moved back to end with the batch.
 template <class T, int N, class Single>
 ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, const PointerMatrixView<const T>& src2,
@@ -813,6 +876,16 @@ ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, co
   const ElementAddresses<const char, N> first(src1);
   const ElementAddresses<const char, N> second(src2);
   const ElementAddresses<char, N> result(dst);
+  if constexpr (N >= 5) {
+    if (isWalk(first) && isWalk(second) && isWalk(result)) {
+      const Walk<const char> a(first.at[0], stepOf(first));
+      const Walk<const char> b(second.at[0], stepOf(second));
+      const Walk<char> d(result.at[0], stepOf(result));
+      for (int64_t k = 0; k < count; k += W)
+        multiplyWalking<T, N, Single>(a, b, d, (k + W <= count ? k : count - W) * E);
+      return;
+    }
+  }
   for (int64_t k = 0; k < count; k += W) {
     const int64_t offset = (k + W <= count ? k : count - W) * E;
     Tile<Lanes<T>, N, N> b;
