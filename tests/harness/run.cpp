@@ -166,7 +166,9 @@ Placed place(const OperandInfo& op, const Dense& dense, Plan plan, size_t slot, 
   const int positions = dense.rows * dense.cols;
   const Spread spread = op.plain || op.value ? Spread::Packed : plan.spread;
   const bool random = spread == Spread::Random;
-  const bool scatter = op.listed() && spread != Spread::Packed && !(random && rng.chance(3));
+  // Neighbours at one distance are a layout that products know.
+  const bool even = spread == Spread::Packed || (byPosition && spread == Spread::Pitch16);
+  const bool scatter = op.listed() && !even && !(random && rng.chance(3));
 
   // The nest, inside first.
   std::vector<Axis> axes;

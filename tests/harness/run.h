@@ -16,7 +16,7 @@ enum class Spread {
   Double,      // stride2, in the pointer layout stride0, of two elements
   Triple,
   ObjectsInside, // stride0 is the element size
-  Pitch16,       // stride0 and stride1 multiples of 16
+  Pitch16,       // stride0 and stride1 multiples of 16; in the pointer layout neighbours, positions at one distance
   CombObjects,   // every object on a page of its own, between guards
   CombRows,      // every row
   Random,
