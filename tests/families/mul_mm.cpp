@@ -283,42 +283,52 @@ TEST(Thresholds, Numbers) {
   EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 30000, 2));
 }
 
-// src1 an array of matrices of side N, src2 one or, with a stride0 of its own, an array.
+// Matrices of side N, one of them or an array; `from` is the first of the objects that the arrays are taken from.
 template <class T, int N, class Call> void expectHugeProducts(Call call) {
   constexpr int each = N * N, row = N * static_cast<int>(sizeof(T));
   const auto n = static_cast<size_t>(each) * static_cast<size_t>(hugeCount<T>(each));
   const std::vector<T> a = hugeValues<T>(n), b(a.rbegin(), a.rend());
   expectHugeAsInSmallCalls<T>(each, [&](int first, int count, T* dst) {
-    return call(&a[static_cast<size_t>(first * each)], b.data(), first * each, dst, N * row, row, count);
+    return call(a.data(), b.data(), first * each, dst, N * row, row, count);
   });
 }
 
 template <class T>
-using ArrayBySingle = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, T*, int, int, int,
-                                    int);
+using BySingle = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, T*, int, int, int, int);
 template <class T>
-using ArrayByArray = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, int, T*, int, int,
-                                   int, int);
-template <class T, int N> void expectHugeProducts(ArrayBySingle<T> mul) {
-  expectHugeProducts<T, N>([mul](const T* a, const T* b, int, T* dst, int object, int row, int count) {
-    constexpr int E = sizeof(T);
-    return mul(a, object, row, E, N, N, b, row, E, N, N, dst, object, row, E, count);
-  });
-}
-template <class T, int N> void expectHugeProducts(ArrayByArray<T> mul) {
+using SingleBy = ZelStatus (*)(const T*, int, int, int, int, const T*, int, int, int, int, int, T*, int, int, int, int);
+template <class T>
+using ByArray = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, int, T*, int, int, int,
+                              int);
+template <class T, int N> void expectHugeBySingle(BySingle<T> mul) {
   expectHugeProducts<T, N>([mul](const T* a, const T* b, int from, T* dst, int object, int row, int count) {
     constexpr int E = sizeof(T);
-    return mul(a, object, row, E, N, N, b + from, object, row, E, N, N, dst, object, row, E, count);
+    return mul(a + from, object, row, E, N, N, b, row, E, N, N, dst, object, row, E, count);
+  });
+}
+template <class T, int N> void expectHugeSingleBy(SingleBy<T> mul) {
+  expectHugeProducts<T, N>([mul](const T* a, const T* b, int from, T* dst, int object, int row, int count) {
+    constexpr int E = sizeof(T);
+    return mul(a, row, E, N, N, b + from, object, row, E, N, N, dst, object, row, E, count);
+  });
+}
+template <class T, int N> void expectHugeByArray(ByArray<T> mul) {
+  expectHugeProducts<T, N>([mul](const T* a, const T* b, int from, T* dst, int object, int row, int count) {
+    constexpr int E = sizeof(T);
+    return mul(a + from, object, row, E, N, N, b + from, object, row, E, N, N, dst, object, row, E, count);
   });
 }
 
 TEST(Huge, Mul) {
-  expectHugeProducts<float, 3>(zelmMul_mam_32f);
-  expectHugeProducts<double, 3>(zelmMul_tam_64f);
-  expectHugeProducts<float, 4>(zelmMul_mama_32f);
-  expectHugeProducts<double, 4>(zelmMul_mat_64f);
-  expectHugeProducts<float, 5>(zelmMul_mama_32f);
-  expectHugeProducts<double, 6>(zelmMul_mama_64f);
+  expectHugeBySingle<float, 3>(zelmMul_mam_32f);
+  expectHugeBySingle<float, 3>(zelmMul_tam_32f);
+  expectHugeBySingle<double, 3>(zelmMul_tam_64f);
+  expectHugeBySingle<double, 4>(zelmMul_mat_64f);
+  expectHugeBySingle<double, 6>(zelmMul_mat_64f);
+  expectHugeSingleBy<float, 4>(zelmMul_mma_32f);
+  expectHugeByArray<float, 4>(zelmMul_mama_32f);
+  expectHugeByArray<float, 5>(zelmMul_mama_32f);
+  expectHugeByArray<double, 6>(zelmMul_mama_64f);
 }
 
 } // namespace

@@ -285,13 +285,12 @@ template <class T, int N, class Cut, bool transposed> struct SpreadSingle {
 
 // One object, its elements read one by one, or, in sixteen-byte vectors, in chunks of a stored row.
 template <class T, int N, bool packed, class Cut, bool transposed> struct SpreadOne {
-  static constexpr int Q = chunkElements<T>;
-  static constexpr bool inChunks = vectorBytes == 16 && (packed || N >= Q) && (!transposed || N <= 4);
   const char* x;
   int64_t stride1;
   ZELM_INLINE auto operator()(int i, int k) const {
 #ifndef __AVX2__
-    if constexpr (inChunks) {
+    constexpr int Q = chunkElements<T>;
+    if constexpr ((packed || N >= Q) && (!transposed || N <= 4)) {
       const int r = transposed ? k : i;
       const int c = transposed ? i : k;
       // A chunk that would end behind the object, or the row, is moved back.
@@ -334,19 +333,15 @@ ZELM_INLINE typename Cut::Rows loadRowPairs(const char* x, int64_t stride1) {
 }
 
 // Chunks of 16 bytes past the caches, those before `from` being there already.
-ZELM_INLINE void streamFrom(char* x, const Lanes<float, 4>& v, int) {
-  streamLanes(x, v);
-}
-ZELM_INLINE void streamFrom(char* x, const Lanes<double, 2>& v, int) {
-  streamLanes(x, v);
-}
-#ifdef __AVX2__
 template <class V> ZELM_INLINE void streamFrom(char* x, const V& v, int from) {
-  if (from < 16)
-    streamLanes(x, lowHalf(v));
-  streamLanes(x + 16, highHalf(v));
+  if constexpr (sizeof v == 16) {
+    streamLanes(x, v);
+  } else {
+    if (from < 16)
+      streamLanes(x, lowHalf(v));
+    streamLanes(x + 16, highHalf(v));
+  }
 }
-#endif
 
 // Rows i, i + 1, ... are stored in ascending order: what a vector writes behind its row is the next row's. The result's
 // group has the addresses of the objects, or of the two rows that are computed at once.
@@ -527,7 +522,7 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
     else
       multiplyGroup<T, N, packed, Cut>(a, b, group, stride1);
   };
-  // A single operand stays in registers.
+  // What a single operand's form keeps of it is made once.
   if constexpr (Single::src1) {
     const auto a = firstOf(0);
     for (int64_t k = 0; k < count; k += step)
@@ -755,7 +750,7 @@ ZELM_NOINLINE void multiplyUnit(const Objects<const T>& src1, const Objects<cons
     multiplyObjects<T, N, Transposed12, Single, false>(src1, src2, dst, count);
   else if (!isRun(src1, Single::src1) || !isRun(src2, Single::src2) || !isRun(dst, false))
     multiplyObjects<T, N, Transposed12, Single, true>(src1, src2, dst, count);
-  else if (N * row * count >= streamingBytes)
+  else if (isStreamed<T>(dst.origin, N * N * count))
     multiplyStreaming<T, N, Transposed12, Single>(src1.origin, src2.origin, dst.origin, count);
   else
     multiplyRun<T, N, Transposed12, Single>(src1.origin, src2.origin, dst.origin, count);

@@ -568,14 +568,16 @@ template <class Tree, class T, int N, int from = 0> struct Columns {
   static constexpr int rowOf(int w) { return from + smaller(w, used - 1); }
   static constexpr bool exchanges(int w) { return w > 0 && w < used && rowOf(w) == exchangingRow<Tree, N>; }
   static constexpr bool hasExchange = exchanges(used - 1);
+
   template <bool transposed, class View, class C> ZELM_INLINE void hold(const View& matrix, const C& src3) {
     ZELM_UNROLL
     for (int j = 0; j < N; ++j)
       column[j] = lanesOf<L>([&](int w) { return factor<transposed>(matrix, rowOf(w), j); });
-    if constexpr (keepsColumns)
+    if constexpr (keepsColumns) {
       ZELM_UNROLL
-    for (int j = 0; j < N; ++j)
-      holdInRegister(column[j]);
+      for (int j = 0; j < N; ++j)
+        holdInRegister(column[j]);
+    }
     held = holdAddend<L>(src3, rowOf);
     if constexpr (from + W < N)
       rest.template hold<transposed>(matrix, src3);
