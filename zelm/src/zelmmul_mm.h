@@ -583,36 +583,17 @@ ZELM_INLINE void multiplyTurned(const char* src1, const Tile<Lanes<T>, 3, 3>& se
 
 // The same with lanes in the order of memory: the rows of src1 one behind the other, at least as many as a vector has
 // lanes.
-template <class T> struct SpreadTriples {
-  Lanes<T> factor[3][3]; // of vector v, term k
-
-  template <bool past, int v> ZELM_INLINE void multiply(const char* rows, char* dst) const {
-    const std::make_integer_sequence<int, laneCount<T>> lanes;
-    constexpr int E = sizeof(T);
-    const auto product = [&](int k) __attribute__((always_inline)) {
-      return factor[v][k] * spreadTriples<T, v>(rows + k * E, lanes);
-    };
-    putLanes<past>(dst + v * vectorBytes, product(0) + product(1) + product(2));
-  }
-};
 template <class T, bool transposed, bool past>
 ZELM_INLINE void multiplySpread(const char* src1, const char* src2, char* dst, int64_t rows) {
   constexpr int W = laneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
-  SpreadTriples<T> by;
-  ZELM_UNROLL
-  for (int v = 0; v < 3; ++v)
-    ZELM_UNROLL
-  for (int k = 0; k < 3; ++k)
-    by.factor[v][k] = lanesOf<Lanes<T>>([&](int w) {
-      const int j = (v * W + w) % 3;
-      return loadElement<T>(src2 + (transposed ? 3 * j + k : 3 * k + j) * E);
-    });
+  const TripleFactors<T> second(
+      [=](int j, int k) { return loadElement<T>(src2 + (transposed ? 3 * j + k : 3 * k + j) * E); });
   for (int64_t r = 0; r < rows; r += W) {
     const int64_t at = (r + W <= rows ? r : rows - W) * 3 * E;
-    by.template multiply<past, 0>(src1 + at, dst + at);
-    by.template multiply<past, 1>(src1 + at, dst + at);
-    by.template multiply<past, 2>(src1 + at, dst + at);
+    putLanes<past>(dst + at, second.template multiply<0>(src1 + at));
+    putLanes<past>(dst + at + vectorBytes, second.template multiply<1>(src1 + at));
+    putLanes<past>(dst + at + 2 * vectorBytes, second.template multiply<2>(src1 + at));
   }
 }
 
@@ -721,7 +702,8 @@ ZELM_NOINLINE void multiplyStreaming(const char* src1, const char* src2, char* d
     multiplyRun<T, N, Transposed12, Single>(first(from), second(from), dst + from * object, end - from);
   };
   if constexpr (triples || row % 16 == 0) {
-    const int64_t begin = objectsToBoundary < object, triples ? vectorBytes : 16 > (dst);
+    constexpr int64_t boundary = triples ? vectorBytes : 16;
+    const int64_t begin = objectsToBoundary<object, boundary>(dst);
     if (begin >= 0) {
       const int64_t end = triples ? count - (count - begin) % laneCount<T> : count;
       multiplyCached(0, begin);

@@ -414,40 +414,27 @@ template <class L, class C, class F> ZELM_INLINE L holdAddend(const C& src3, con
     return L{};
 }
 
-template <class Tree, class T> struct TripleVectors {
-  Lanes<T> column[3][3]; // of vector v
-  Lanes<T> held[3];
-
-  template <int v, class C> ZELM_INLINE void multiply(const char* x, const C& src3, char* dst, int64_t offset) const {
-    const std::make_integer_sequence<int, laneCount<T>> lanes;
-    Lanes<T> term[3];
-    ZELM_UNROLL
-    for (int j = 0; j < 3; ++j)
-      term[j] = column[v][j] * spreadTriples<T, v>(x + offset + j * static_cast<int>(sizeof(T)), lanes);
-    const int64_t at = offset + v * vectorBytes;
-    storeLanes(dst + at, addTo(Tree::of(0, term), src3, at, held[v]));
-  }
-};
-template <class Tree, bool transposed, class A, class T, class C>
+// Three elements, of which every sum is a chain.
+template <bool transposed, class A, class T, class C>
 ZELM_INLINE int64_t multiplyTriples(const A& stored, const PackedObjects<const T, 3>& src2, const C& src3,
                                     const PackedObjects<T, 3>& dst, int64_t end) {
   constexpr int W = laneCount<T>;
   const auto matrix = stored.object(0, 3);
-  TripleVectors<Tree, T> by;
+  const TripleFactors<T> factors([&](int i, int j) { return factor<transposed>(matrix, i, j); });
+  Lanes<T> held[3];
   ZELM_UNROLL
-  for (int v = 0; v < 3; ++v) {
-    const auto element = [v](int w) { return (v * W + w) % 3; };
-    ZELM_UNROLL
-    for (int j = 0; j < 3; ++j)
-      by.column[v][j] = lanesOf<Lanes<T>>([&](int w) { return factor<transposed>(matrix, element(w), j); });
-    by.held[v] = holdAddend<Lanes<T>>(src3, element);
-  }
+  for (int v = 0; v < 3; ++v)
+    held[v] = holdAddend<Lanes<T>>(src3, [v](int w) { return (v * W + w) % 3; });
   int64_t k = 0;
   for (; k + W <= end; k += W) {
     const int64_t offset = k * dst.bytes;
-    by.template multiply<0>(src2.first, src3, dst.first, offset);
-    by.template multiply<1>(src2.first, src3, dst.first, offset);
-    by.template multiply<2>(src2.first, src3, dst.first, offset);
+    const auto put = [&](int v, const Lanes<T>& product) __attribute__((always_inline)) {
+      const int64_t at = offset + v * vectorBytes;
+      storeLanes(dst.first + at, addTo(product, src3, at, held[v]));
+    };
+    put(0, factors.template multiply<0>(src2.first + offset));
+    put(1, factors.template multiply<1>(src2.first + offset));
+    put(2, factors.template multiply<2>(src2.first + offset));
   }
   return k;
 }
@@ -879,7 +866,7 @@ template <class Tree, int N, bool transposed, class A, class B, class C, class D
 ZELM_NOINLINE int64_t multiplyPacked(A stored, B src2, C src3, D dst, int64_t count) {
   using T = typename D::Element;
   if constexpr (!A::isArray && N == 3 && laneCount<T> >= 4)
-    return multiplyTriples<Tree, transposed>(stored, src2, src3, dst, count);
+    return multiplyTriples<transposed>(stored, src2, src3, dst, count);
   else if constexpr (!A::isArray && N == 4 && Crosswise<Tree>::inner != 0)
     return multiplyFours<Tree, transposed>(stored, src2, src3, dst, count);
   else if constexpr (!A::isArray && N >= 4)

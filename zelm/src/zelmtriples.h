@@ -171,4 +171,28 @@ ZELM_INLINE Lanes<T> spreadTriples(const char* x, std::integer_sequence<int, w..
   return __builtin_shufflevector(lanes, lanes, (Of::of(w) % W)...);
 }
 
+// A matrix of 3 by 3 that triples are multiplied by, spread over the lanes of three vectors.
+template <class T> struct TripleFactors {
+  Lanes<T> factor[3][3]; // of vector v, term j
+
+  // element(i, j) is what result element i multiplies element j of a triple by.
+  template <class F> ZELM_INLINE explicit TripleFactors(const F& element) {
+    constexpr int W = laneCount<T>;
+    ZELM_UNROLL
+    for (int v = 0; v < 3; ++v)
+      ZELM_UNROLL
+    for (int j = 0; j < 3; ++j)
+      factor[v][j] = lanesOf<Lanes<T>>([&](int w) { return element((v * W + w) % 3, j); });
+  }
+
+  // Vector v of the products of the triples at x; a sum of three terms is a chain wherever there is one.
+  template <int v> ZELM_INLINE Lanes<T> multiply(const char* x) const {
+    const std::make_integer_sequence<int, laneCount<T>> lanes;
+    const auto product = [&](int j) __attribute__((always_inline)) {
+      return factor[v][j] * spreadTriples<T, v>(x + j * static_cast<int>(sizeof(T)), lanes);
+    };
+    return product(0) + product(1) + product(2);
+  }
+};
+
 } // namespace zelm
