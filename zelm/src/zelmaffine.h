@@ -1,12 +1,8 @@
 // The homogeneous transform of points: dst = (src1 * (x0, x1, x2, 1)) / w.
 #pragma once
 
-#include "zelmframe.h"
+#include "zelmaffinesignature.h"
 #include "zelmtriples.h"
-
-// clang-format off
-#define AFFINE_MVA_S(V, T)  V##_M_S(src1, const T), V##_VA_S(src2, const T), V##_VA_S(dst, T), V##_COUNT
-// clang-format on
 
 namespace zelm {
 
@@ -41,34 +37,20 @@ template <class View> ZELM_INLINE bool dividePoint(const Homogeneous<float>& h, 
   return good;
 }
 
-// Without the signs.
-template <class L> ZELM_INLINE L magnitudes(const L& w) {
-  using Bits = decltype(w > w);
-  return reinterpret_cast<L>(reinterpret_cast<Bits>(w) & 0x7fffffff);
-}
-
-template <class Mask> ZELM_INLINE bool allLanes(const Mask& mask) {
-#ifdef __AVX2__
-  return _mm256_movemask_ps(reinterpret_cast<__m256>(mask)) == 0xff;
-#else
-  return _mm_movemask_ps(reinterpret_cast<__m128>(mask)) == 0xf;
-#endif
-}
-
 // The same on lanes. Where a point of the block fails, results are selected lane by lane.
 template <class L> ZELM_INLINE Tile<L, 1, 3> dividePoints(const Homogeneous<L>& h, bool& failed) {
   const L w = h.y[3];
-  const auto good = magnitudes(w) > splat<L>(smallestW);
+  const auto good = greater(magnitude(w), splat<L>(smallestW));
   const L reciprocal = splat<L>(1.0f) / w;
   Tile<L, 1, 3> point;
   ZELM_UNROLL
   for (int i = 0; i < 3; ++i)
     point(0, i) = h.y[i] * reciprocal;
-  if (__builtin_expect(!allLanes(good), 0)) {
+  if (__builtin_expect(!all(good), 0)) {
     failed = true;
     ZELM_UNROLL
     for (int i = 0; i < 3; ++i)
-      point(0, i) = good ? point(0, i) : splat<L>(largeValue);
+      point(0, i) = select(good, point(0, i), splat<L>(largeValue));
   }
   return point;
 }
@@ -77,8 +59,8 @@ template <class L> ZELM_INLINE Tile<L, 1, 3> dividePoints(const Homogeneous<L>& 
 template <bool Stream>
 inline int64_t transformPacked(const Tile<float, 4, 4>& matrix, const char* src, char* dst, int64_t first, int64_t end,
                                bool& anyFailed) {
-  using L = Lanes<float>;
-  constexpr int64_t width = laneCount<float>;
+  using L = RowLanes<float>;
+  constexpr int64_t width = rowLaneCount<float>;
   constexpr int64_t pointBytes = 3 * sizeof(float);
   Tile<L, 4, 4> a;
   ZELM_UNROLL
@@ -104,10 +86,8 @@ inline void transformAny(const Tile<float, 4, 4>& matrix, const B& src2, const D
   }
 }
 
-struct Points {};
-
 template <class A, class B, class D>
-inline ZelStatus transformPoints(Points, const A& src1, const B& src2, const D& dst, Count count) {
+inline ZelStatus transformPoints(const A& src1, const B& src2, const D& dst, Count count) {
   const auto matrix = loadTile<4, 4>(src1.object(0, 4));
   bool failed = false;
   int64_t k = 0;
@@ -116,13 +96,13 @@ inline ZelStatus transformPoints(Points, const A& src1, const B& src2, const D& 
       const auto* const from = reinterpret_cast<const char*>(src2.pointer);
       auto* const to = reinterpret_cast<char*>(dst.pointer);
       // Vectors of points can be aligned wherever elements are.
-      if (isStreamed<float>(to, int64_t{3} * count, from)) {
+      if (isStreamed<float>(to, int64_t{3} * count, int64_t{3} * count.whole, from)) {
         int64_t lead = 0;
         while (elementsToAlignment<float>(to + lead * dst.stride0) != 0)
           ++lead;
         transformAny(matrix, src2, dst, 0, lead, failed);
         k = transformPacked<true>(matrix, from, to, lead, count, failed);
-        _mm_sfence();
+        endStreams();
       } else {
         k = transformPacked<false>(matrix, from, to, 0, count, failed);
       }

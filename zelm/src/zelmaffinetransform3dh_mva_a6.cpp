@@ -2,5 +2,5 @@
 #include "zelmaffine.h"
 
 // clang-format off
-KERNEL(ownzelmAffineTransform3DH_mva_32f, AFFINE_MVA_S, UNIT, float, transformPoints, Points)
+KERNEL(ownzelmAffineTransform3DH_mva_32f, AFFINE_MVA, S, UNIT, float, transformPoints)
 // clang-format on

@@ -2,5 +2,5 @@
 #include "zelmaffine.h"
 
 // clang-format off
-KERNEL(ownzelmAffineTransform3DH_mva_32f_S2, AFFINE_MVA_S, ANY, float, transformPoints, Points)
+KERNEL(ownzelmAffineTransform3DH_mva_32f_S2, AFFINE_MVA, S, ANY, float, transformPoints)
 // clang-format on

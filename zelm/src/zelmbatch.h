@@ -11,84 +11,13 @@
 namespace zelm {
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Integers and choices lane by lane
-
-// What a comparison of lanes gives; also integers, one a lane.
-template <class L> struct LaneInteger { using type = decltype(L{} < L{}); };
-template <> struct LaneInteger<float> { using type = int32_t; };
-template <> struct LaneInteger<double> { using type = int32_t; };
-template <class L> using IntegerOf = typename LaneInteger<L>::type;
-
-// `choose` is what a comparison gives. Without blend instructions this is three operations.
-template <class L> ZELM_INLINE L select(IntegerOf<L> choose, L yes, L no) {
-#ifdef __AVX2__
-  if constexpr (sizeof(ElementOf<L>) == 4)
-    return _mm256_blendv_ps(no, yes, reinterpret_cast<__m256>(choose));
-  else
-    return _mm256_blendv_pd(no, yes, reinterpret_cast<__m256d>(choose));
-#else
-  return choose ? yes : no;
-#endif
-}
-
-// The lanes of a that are not lanes of b. g++ would take a & ~b of comparisons apart into single lanes.
-template <class I> ZELM_INLINE I without(const I& a, const I& b) {
-#ifdef __AVX2__
-  return reinterpret_cast<I>(_mm256_andnot_si256(reinterpret_cast<__m256i>(b), reinterpret_cast<__m256i>(a)));
-#else
-  return reinterpret_cast<I>(_mm_andnot_si128(reinterpret_cast<__m128i>(b), reinterpret_cast<__m128i>(a)));
-#endif
-}
-
-// a > b ? a : b
-#ifdef __AVX2__
-ZELM_INLINE Lanes<float> larger(Lanes<float> a, Lanes<float> b) {
-  return _mm256_max_ps(a, b);
-}
-ZELM_INLINE Lanes<double> larger(Lanes<double> a, Lanes<double> b) {
-  return _mm256_max_pd(a, b);
-}
-#else
-ZELM_INLINE Lanes<float> larger(Lanes<float> a, Lanes<float> b) {
-  return _mm_max_ps(a, b);
-}
-ZELM_INLINE Lanes<double> larger(Lanes<double> a, Lanes<double> b) {
-  return _mm_max_pd(a, b);
-}
-#endif
+// Choices lane by lane
 
 // Exchanges x[k] with x[i] in the lanes of with[i], for all i behind k. No lane is in two of them.
-template <class K, class L, int N> ZELM_INLINE void exchange(K k, const IntegerOf<L> (&with)[N], L (&x)[N]) {
-#ifdef __AVX2__
-  const L old = x[k];
-  ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY {
-    x[k] = select<L>(with[i], x[i], x[k]);
-    x[i] = select<L>(with[i], old, x[i]);
-  });
-#else
-  // A choice would be three operations, so it is the bits in which the two differ that change places.
-  const auto bits = [](auto v) ZELM_BODY { return reinterpret_cast<__m128>(v); };
-  const __m128 old = bits(x[k]);
-  __m128 changes{};
-  ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY {
-    const __m128 change = _mm_and_ps(bits(with[i]), _mm_xor_ps(old, bits(x[i])));
-    x[i] = reinterpret_cast<L>(_mm_xor_ps(bits(x[i]), change));
-    changes = _mm_or_ps(changes, change);
-  });
-  x[k] = reinterpret_cast<L>(_mm_xor_ps(old, changes));
-#endif
-}
-
-// The magnitude: the sign bit cleared, NaN included.
-ZELM_INLINE float magnitude(float x) {
-  return __builtin_fabsf(x);
-}
-ZELM_INLINE double magnitude(double x) {
-  return __builtin_fabs(x);
-}
-template <class L> ZELM_INLINE L magnitude(L x) {
-  using T = ElementOf<L>;
-  return reinterpret_cast<L>(reinterpret_cast<IntegerOf<L>>(x) & ~reinterpret_cast<IntegerOf<L>>(splat<L>(T(-0.0))));
+template <class K, class L, int N> ZELM_INLINE void exchange(K k, const MaskOf<L> (&with)[N], L (&x)[N]) {
+  LaneExchange<L> row(x[k]);
+  ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY { row.with(with[i], x[i]); });
+  x[k] = row.value();
 }
 
 // Pairs (a, b), a < b: exchanged one after the other wherever key a is greater than key b, they sort any N keys.
@@ -113,12 +42,13 @@ public:
     L key[N];
     ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { key[i] = reinterpret_cast<L>(p[i]); });
     ascending(Fixed<0>{}, Fixed<steps>{}, [&](auto s) ZELM_BODY {
-      where_[s] = reinterpret_cast<I>(key[Network::pair[s][0]]) > reinterpret_cast<I>(key[Network::pair[s][1]]);
+      where_[s] = greater(reinterpret_cast<I>(key[Network::pair[s][0]]), reinterpret_cast<I>(key[Network::pair[s][1]]));
       exchange(s, key);
     });
-    I wrong{};
-    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { wrong |= reinterpret_cast<I>(key[i]) != i.value; });
-    isPermutation_ = !anyLane(wrong);
+    MaskOf<L> wrong{};
+    ascending(Fixed<0>{}, Fixed<N>{},
+              [&](auto i) ZELM_BODY { wrong = either(wrong, unequal(reinterpret_cast<I>(key[i]), I{} + i.value)); });
+    isPermutation_ = !any(wrong);
   }
   // Otherwise there is no such order: a row appears twice.
   ZELM_INLINE bool isPermutation() const { return isPermutation_; }
@@ -138,7 +68,7 @@ private:
     b = select<L>(where_[s], old, b);
   }
 
-  I where_[steps];
+  MaskOf<L> where_[steps];
   bool isPermutation_;
 };
 

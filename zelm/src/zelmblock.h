@@ -12,96 +12,11 @@
 namespace zelm {
 
 // ---------------------------------------------------------------------------------------------------------------------
-// What lanes and single elements have in common
-
-ZELM_INLINE bool anyLane(bool condition) {
-  return condition;
-}
-template <class M> ZELM_INLINE bool anyLane(const M& mask) {
-  constexpr bool wide = sizeof(mask[0]) == 8;
-#ifdef __AVX2__
-  if constexpr (wide)
-    return _mm256_movemask_pd(reinterpret_cast<__m256d>(mask)) != 0;
-  else
-    return _mm256_movemask_ps(reinterpret_cast<__m256>(mask)) != 0;
-#else
-  if constexpr (wide)
-    return _mm_movemask_pd(reinterpret_cast<__m128d>(mask)) != 0;
-  else
-    return _mm_movemask_ps(reinterpret_cast<__m128>(mask)) != 0;
-#endif
-}
-
-ZELM_INLINE float squareRoot(float x) {
-  return __builtin_sqrtf(x);
-}
-ZELM_INLINE double squareRoot(double x) {
-  return __builtin_sqrt(x);
-}
-#ifdef __AVX2__
-ZELM_INLINE Lanes<float, 8> squareRoot(Lanes<float, 8> x) {
-  return _mm256_sqrt_ps(x);
-}
-ZELM_INLINE Lanes<double, 4> squareRoot(Lanes<double, 4> x) {
-  return _mm256_sqrt_pd(x);
-}
-#else
-ZELM_INLINE Lanes<float, 4> squareRoot(Lanes<float, 4> x) {
-  return _mm_sqrt_ps(x);
-}
-ZELM_INLINE Lanes<double, 2> squareRoot(Lanes<double, 2> x) {
-  return _mm_sqrt_pd(x);
-}
-#endif
-
-// Two vectors side by side: twice the objects, and two chains of dependent
-// operations at a time.
-template <class V> struct Pair {
-  V low;
-  V high;
-  friend ZELM_INLINE Pair operator+(const Pair& a, const Pair& b) { return {a.low + b.low, a.high + b.high}; }
-  friend ZELM_INLINE Pair operator-(const Pair& a, const Pair& b) { return {a.low - b.low, a.high - b.high}; }
-  friend ZELM_INLINE Pair operator*(const Pair& a, const Pair& b) { return {a.low * b.low, a.high * b.high}; }
-  friend ZELM_INLINE Pair operator/(const Pair& a, const Pair& b) { return {a.low / b.low, a.high / b.high}; }
-  friend ZELM_INLINE Pair operator/(ElementOf<V> a, const Pair& b) { return {a / b.low, a / b.high}; }
-  friend ZELM_INLINE Pair operator-(const Pair& a) { return {-a.low, -a.high}; }
-  // The lanes in which it holds in either vector.
-  friend ZELM_INLINE auto operator>(const Pair& a, const Pair& b) { return (a.low > b.low) | (a.high > b.high); }
-  friend ZELM_INLINE auto operator>=(const Pair& a, const Pair& b) { return (a.low >= b.low) | (a.high >= b.high); }
-};
-template <class V> struct LaneTraits<Pair<V>> {
-  using Element = ElementOf<V>;
-  static constexpr int width = 2 * LaneTraits<V>::width;
-};
-template <class> struct VectorOfPair;
-template <class V> struct VectorOfPair<Pair<V>> { using type = V; };
-
-template <class V> ZELM_INLINE Pair<V> squareRoot(const Pair<V>& x) {
-  return {squareRoot(x.low), squareRoot(x.high)};
-}
-
-// The same value in every lane of a vector or of a pair.
-template <class L> ZELM_INLINE L everyLane(ElementOf<L> value) {
-  if constexpr (LaneTraits<L>::width > laneCount<ElementOf<L>>) {
-    const auto v = splat<typename VectorOfPair<L>::type>(value);
-    return {v, v};
-  } else {
-    return splat<L>(value);
-  }
-}
-
-// ---------------------------------------------------------------------------------------------------------------------
 // One element of each object
 
 // address(w) is the element's in lane w.
 template <class T, class A> ZELM_INLINE Lanes<T> gatherLanes(const A& address) {
-  const auto at = [&](int w) ZELM_BODY { return loadElement<T>(address(w)); };
-  if constexpr (laneCount<T> == 2)
-    return Lanes<T>{at(0), at(1)};
-  else if constexpr (laneCount<T> == 4)
-    return Lanes<T>{at(0), at(1), at(2), at(3)};
-  else
-    return Lanes<T>{at(0), at(1), at(2), at(3), at(4), at(5), at(6), at(7)};
+  return lanesOf<Lanes<T>>([&](int w) ZELM_BODY { return loadElement<T>(address(w)); });
 }
 
 template <class T, class A> ZELM_INLINE void scatterLanes(const A& address, const Lanes<T>& lanes) {
@@ -110,39 +25,26 @@ template <class T, class A> ZELM_INLINE void scatterLanes(const A& address, cons
     storeElement<T>(address(w), lanes[w]);
 }
 
-// Two neighbouring elements of each object, eight bytes at a time.
+// Two neighbouring elements of each object, eight bytes at a time. Of four objects, whose elements a part of a vector
+// has, the first two make a part of one vector and the others a part of another.
 template <class C> ZELM_INLINE void loadPairs(const ObjectAddresses<float, C>& x, int64_t offset, Lanes<float>* lanes) {
-  const auto at = [&](int w) ZELM_BODY { return loadElement<double>(x.of[w] + offset); };
-#ifdef __AVX2__
-  const auto p = reinterpret_cast<Lanes<float>>(Lanes<double>{at(0), at(1), at(4), at(5)});
-  const auto q = reinterpret_cast<Lanes<float>>(Lanes<double>{at(2), at(3), at(6), at(7)});
-  lanes[0] = __builtin_shufflevector(p, q, 0, 2, 8, 10, 4, 6, 12, 14);
-  lanes[1] = __builtin_shufflevector(p, q, 1, 3, 9, 11, 5, 7, 13, 15);
-#else
-  const auto p = reinterpret_cast<Lanes<float>>(Lanes<double>{at(0), at(1)});
-  const auto q = reinterpret_cast<Lanes<float>>(Lanes<double>{at(2), at(3)});
-  lanes[0] = __builtin_shufflevector(p, q, 0, 2, 4, 6);
-  lanes[1] = __builtin_shufflevector(p, q, 1, 3, 5, 7);
-#endif
+  const auto twoFrom = [&](int first) ZELM_BODY {
+    const auto at = [&](int w) ZELM_BODY { return loadElement<double>(x.of[w / 2 * 4 + first + w % 2] + offset); };
+    return reinterpret_cast<Lanes<float>>(lanesOf<Lanes<double>>(at));
+  };
+  const auto p = twoFrom(0);
+  const auto q = twoFrom(2);
+  lanes[0] = pick<0, 2, 4, 6>(p, q);
+  lanes[1] = pick<1, 3, 5, 7>(p, q);
 }
 ZELM_INLINE void storePairs(const ObjectAddresses<float, char>& x, int64_t offset, const Lanes<float>* lanes) {
-  const auto store = [&](int w, double pair) ZELM_BODY { storeElement<double>(x.of[w] + offset, pair); };
-#ifdef __AVX2__
-  const auto p = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 0, 8, 1, 9, 4, 12, 5, 13));
-  const auto q =
-      reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 2, 10, 3, 11, 6, 14, 7, 15));
-  store(4, p[2]);
-  store(5, p[3]);
-  store(6, q[2]);
-  store(7, q[3]);
-#else
-  const auto p = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 0, 4, 1, 5));
-  const auto q = reinterpret_cast<Lanes<double>>(__builtin_shufflevector(lanes[0], lanes[1], 2, 6, 3, 7));
-#endif
-  store(0, p[0]);
-  store(1, p[1]);
-  store(2, q[0]);
-  store(3, q[1]);
+  const auto p = reinterpret_cast<Lanes<double>>(pick<0, 4, 1, 5>(lanes[0], lanes[1]));
+  const auto q = reinterpret_cast<Lanes<double>>(pick<2, 6, 3, 7>(lanes[0], lanes[1]));
+  ZELM_UNROLL
+  for (int w = 0; w < laneCount<double>; ++w) {
+    storeElement<double>(x.of[w / 2 * 4 + w % 2] + offset, p[w]);
+    storeElement<double>(x.of[w / 2 * 4 + w % 2 + 2] + offset, q[w]);
+  }
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -246,6 +148,7 @@ template <class T> struct PositionBlock {
   int64_t rowLength;
   int64_t offset[laneCount<Element>];
 
+  static constexpr bool unit = false;
   static constexpr bool straight = false;
   static constexpr bool gapless(int) { return false; }
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
@@ -270,6 +173,7 @@ template <class T> struct NeighbourBlock {
   int64_t rowLength;
   int64_t offset;
 
+  static constexpr bool unit = false;
   static constexpr bool straight = true;
   static constexpr bool gapless(int) { return false; }
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
@@ -377,11 +281,120 @@ template <class Operand> ZELM_INLINE auto vectorBlocks(const Operand& x) {
   return BlocksOf(x, 0, [&x](int64_t k) ZELM_BODY { return x.object(k); });
 }
 
+// The single vector of a batch: the same in every lane.
+template <class View> struct SameObject {
+  using T = typename View::Element;
+  View view;
+  template <int N> ZELM_INLINE Lanes<T> chunks(int, int64_t offset) const {
+    return vectorOfParts<T, laneCount<T>>([&](int) ZELM_BODY {
+      if constexpr (N == chunkElements<T>)
+        return loadLanes<T, N>(view.address(0) + offset);
+      else
+        return loadTriple(view.address(0) + offset);
+    });
+  }
+  ZELM_INLINE Lanes<T> vector(int, int64_t offset) const { return loadLanes<T>(view.address(0) + offset); }
+  ZELM_INLINE T element(int, int64_t offset) const { return loadElement<T>(view.address(0) + offset); }
+};
+template <class View> struct SameBlock {
+  using Element = typename View::Element;
+  static constexpr bool unit = View::unitRows;
+  static constexpr bool straight = true;
+  SameObject<View> objects;
+  template <class N> ZELM_INLINE void load(int, int j, N n, Lanes<Element>* lanes) const {
+    ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY { lanes[e] = splat<Lanes<Element>>(objects.view.load(j + e)); });
+  }
+};
+template <class View> struct SameBlocks {
+  SameBlock<View> block;
+  template <class B> ZELM_INLINE const auto& at(const B&) const { return block; }
+};
+
+// The vectors that a batch reads, an array or a single one.
+template <class Operand> ZELM_INLINE auto sourceBlocks(const Operand& x) {
+  if constexpr (Operand::isArray)
+    return vectorBlocks(x);
+  else
+    return SameBlocks<decltype(x.object(0))>{{{x.object(0)}}};
+}
+
+// Neighbours at positions that are known: their addresses need not be read again after each store.
+template <class T, int N> struct HeldNeighbours {
+  using Element = std::remove_const_t<T>;
+  static constexpr bool unit = false;
+  Byte<T>* position[N];
+  template <class M> ZELM_INLINE void load(int, int, M, Lanes<Element>* lanes) const {
+    ascending(Fixed<0>{}, M{}, [&](auto e) ZELM_BODY { lanes[e] = loadLanes<Element>(position[e]); });
+  }
+  template <class M> ZELM_INLINE void store(int, int, M, const Lanes<Element>* lanes) const {
+    ascending(Fixed<0>{}, M{}, [&](auto e) ZELM_BODY { storeLanes(position[e], lanes[e]); });
+  }
+};
+
+// at(k) is the block of the vectors k, k + 1, ... of N elements, as many as a vector has lanes, for work so short that
+// where they lie must not take longer: in registers, or the same for all. In the pointer layout they are neighbours.
+template <int N, class Operand> ZELM_INLINE auto wholeBlocks(const Operand& x) {
+  using T = typename Operand::Element;
+  const auto first = x.object(0);
+  if constexpr (!Operand::isArray) {
+    return [first](int64_t) ZELM_BODY { return SameBlock<decltype(x.object(0))>{{first}}; };
+  } else if constexpr (isPointerLayout<Operand>) {
+    using C = std::remove_pointer_t<decltype(first.address(0))>;
+    using Held = HeldNeighbours<std::conditional_t<std::is_const_v<C>, const T, T>, N>;
+    Held held;
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto e) ZELM_BODY { held.position[e] = first.address(e); });
+    return [held](int64_t k) ZELM_BODY {
+      Held block;
+      ascending(Fixed<0>{}, Fixed<N>{},
+                [&](auto e) ZELM_BODY { block.position[e] = held.position[e] + k * static_cast<int64_t>(sizeof(T)); });
+      return block;
+    };
+  } else {
+    return [&x, first](int64_t k) ZELM_BODY {
+      auto block = blockOf(first, 0);
+      ascending(Fixed<0>{}, Fixed<laneCount<T>>{},
+                [&](auto w) ZELM_BODY { block.objects.of[w] = x.object(k + w).address(0); });
+      return block;
+    };
+  }
+}
+
+// The values of a block's objects, to a plain run that has one for each object of the batch.
+template <class B, class T> ZELM_INLINE void storeValues(const Plain<T>& run, const B& block, const Lanes<T>& values) {
+  char* const at = reinterpret_cast<char*>(run.pointer + block.first);
+  if (block.last == laneCount<T> - 1)
+    storeLanes(at, values);
+  else
+    for (int w = 0; w <= block.last; ++w)
+      storeElement<T>(at + w * static_cast<int>(sizeof(T)), values[w]);
+}
+
 template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
   if constexpr (isPointerLayout<Operand>)
     return x.objectStride() == static_cast<int64_t>(sizeof(typename Operand::Element));
   else
     return false;
+}
+
+// A dense matrix of each object, row after row in lanes.
+template <class Objects, class L, class Width, class Height>
+ZELM_INLINE void loadElements(const Objects& objects, L* lanes, Width width, Height height) {
+  if (objects.gapless(width))
+    return objects.load(0, 0, product(width, height), lanes);
+  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.load(i, 0, width, lanes + i * width); });
+}
+template <class Objects, class L, class Width, class Height>
+ZELM_INLINE void storeElements(const Objects& objects, const L* lanes, Width width, Height height) {
+  if (objects.gapless(width))
+    return objects.store(0, 0, product(width, height), lanes);
+  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.store(i, 0, width, lanes + i * width); });
+}
+
+template <class Operand> ZELM_INLINE bool areNeighboursOrSame(const Operand& x) {
+  if constexpr (Operand::isArray)
+    return areNeighbours(x);
+  else
+    return true;
 }
 
 // Runs through a batch in blocks of Width objects: a vector full, or twice that for two vectors side by side.

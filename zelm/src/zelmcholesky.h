@@ -5,25 +5,7 @@
 #pragma once
 
 #include "zelmblock.h"
-
-// clang-format off
-#define CHOLESKY_FACTOR(V, T, S, D)      V##_##S(src, const T), V##_##D(dst, T), V##_SIZE(widthHeight)
-#define CHOLESKY_FACTOR_M_S(V, T)        CHOLESKY_FACTOR(V, T, M_S, M_S)
-#define CHOLESKY_FACTOR_M_P(V, T)        CHOLESKY_FACTOR(V, T, M_P, M_P)
-#define CHOLESKY_FACTOR_MA_S(V, T)       CHOLESKY_FACTOR(V, T, MA_S, MA_S), V##_COUNT
-#define CHOLESKY_FACTOR_MA_L(V, T)       CHOLESKY_FACTOR(V, T, MA_L, MA_L), V##_COUNT
-#define CHOLESKY_FACTOR_MA_P(V, T)       CHOLESKY_FACTOR(V, T, MA_P, MA_P), V##_COUNT
-
-#define CHOLESKY_SOLVE(V, T, M, B, X)    V##_##M(src1, const T), V##_##B(src2, const T), V##_##X(dst, T), V##_SIZE(widthHeight)
-#define CHOLESKY_SOLVE_MV_S(V, T)        CHOLESKY_SOLVE(V, T, M_S, V_S, V_S)
-#define CHOLESKY_SOLVE_MV_P(V, T)        CHOLESKY_SOLVE(V, T, M_P, V_P, V_P)
-#define CHOLESKY_SOLVE_MVA_S(V, T)       CHOLESKY_SOLVE(V, T, M_S, VA_S, VA_S), V##_COUNT
-#define CHOLESKY_SOLVE_MVA_L(V, T)       CHOLESKY_SOLVE(V, T, M_S, VA_L, VA_L), V##_COUNT
-#define CHOLESKY_SOLVE_MVA_P(V, T)       CHOLESKY_SOLVE(V, T, M_P, VA_P, VA_P), V##_COUNT
-#define CHOLESKY_SOLVE_MAVA_S(V, T)      CHOLESKY_SOLVE(V, T, MA_S, VA_S, VA_S), V##_COUNT
-#define CHOLESKY_SOLVE_MAVA_L(V, T)      CHOLESKY_SOLVE(V, T, MA_L, VA_L, VA_L), V##_COUNT
-#define CHOLESKY_SOLVE_MAVA_P(V, T)      CHOLESKY_SOLVE(V, T, MA_P, VA_P, VA_P), V##_COUNT
-// clang-format on
+#include "zelmcholeskysignature.h"
 
 namespace zelm {
 
@@ -32,30 +14,12 @@ namespace zelm {
 
 // 1 / sqrt(d), root and division in double, rounded once.
 struct WidenedRoot {
-  template <class V> ZELM_INLINE static Pair<V> reciprocal(const Pair<V>& d) {
-    return {reciprocal(d.low), reciprocal(d.high)};
+  template <class L> ZELM_INLINE static L reciprocal(const L& d) {
+    if constexpr (sizeof(ElementOf<L>) == 4)
+      return narrowed(reciprocal(widened(d)));
+    else
+      return splat<L>(1) / squareRoot(d);
   }
-  ZELM_INLINE static double reciprocal(double d) { return 1 / squareRoot(d); }
-  ZELM_INLINE static float reciprocal(float d) { return static_cast<float>(reciprocal(static_cast<double>(d))); }
-#ifdef __AVX2__
-  ZELM_INLINE static Lanes<double, 4> reciprocal(Lanes<double, 4> d) {
-    return 1 / squareRoot(d);
-  }
-  ZELM_INLINE static Lanes<float, 8> reciprocal(Lanes<float, 8> d) {
-    const Lanes<double, 4> low = _mm256_cvtps_pd(lowHalf(d));
-    const Lanes<double, 4> high = _mm256_cvtps_pd(highHalf(d));
-    return joinHalves(_mm256_cvtpd_ps(reciprocal(low)), _mm256_cvtpd_ps(reciprocal(high)));
-  }
-#else
-  ZELM_INLINE static Lanes<double, 2> reciprocal(Lanes<double, 2> d) {
-    return 1 / squareRoot(d);
-  }
-  ZELM_INLINE static Lanes<float, 4> reciprocal(Lanes<float, 4> d) {
-    const Lanes<double, 2> low = _mm_cvtps_pd(d);
-    const Lanes<double, 2> high = _mm_cvtps_pd(_mm_movehl_ps(d, d));
-    return _mm_movelh_ps(_mm_cvtpd_ps(reciprocal(low)), _mm_cvtpd_ps(reciprocal(high)));
-  }
-#endif
 };
 
 // The root rounded to the element type, and the division in it.
@@ -113,7 +77,7 @@ ZELM_INLINE bool choleskyFactor(const Source& src, const Factor& dst, Side side,
     });
     L d = src.load(i, i);
     ascending(Fixed<0>{}, i, [&](auto k) ZELM_BODY { d = d - dst.load(i, k) * dst.load(i, k); });
-    if (anyLane(everyLane<L>(limit) >= d))
+    if (any(greaterEqual(splat<L>(limit), d)))
       return false;
     dst.store(i, i, Root::reciprocal(d));
     return true;
@@ -173,13 +137,13 @@ ZELM_INLINE ZelStatus choleskyFactorGeneral(Pivots, const Source& src, const Res
 
 // Single objects.
 template <class Pivots, class Source, class Result>
-ZELM_INLINE ZelStatus choleskyFactors(Pivots pivots, const Source& src, const Result& dst, int32_t side) {
+ZELM_INLINE ZelStatus choleskyFactors(const Source& src, const Result& dst, int32_t side) {
   const auto source = src.object(0, side);
   const auto result = dst.object(0, side);
   return forSize(
       StraightSides{}, side,
-      [&](auto fixed) ZELM_BODY { return choleskyFactorFixed<decltype(fixed)::value>(pivots, source, result); },
-      [&]() ZELM_BODY { return choleskyFactorGeneral(pivots, source, result, side); });
+      [&](auto fixed) ZELM_BODY { return choleskyFactorFixed<decltype(fixed)::value>(Pivots{}, source, result); },
+      [&]() ZELM_BODY { return choleskyFactorGeneral(Pivots{}, source, result, side); });
 }
 
 // A block of two vectors full; nothing is stored unless every lane has all its pivots.
@@ -245,16 +209,15 @@ ZELM_INLINE ZelStatus choleskyFactorBatch(Pivots pivots, const Source& src, cons
 }
 
 template <class Pivots, class Source, class Result>
-ZELM_INLINE ZelStatus choleskyFactors(Pivots pivots, const Source& src, const Result& dst, int32_t side,
-                                      int32_t count) {
-  return choleskyFactorBatch(pivots, src, dst, side, count, [&](int64_t k) ZELM_BODY {
-    return choleskyFactorGeneral(pivots, src.object(k, side), dst.object(k, side), side);
+ZELM_INLINE ZelStatus choleskyFactors(const Source& src, const Result& dst, int32_t side, int32_t count) {
+  return choleskyFactorBatch(Pivots{}, src, dst, side, count, [&](int64_t k) ZELM_BODY {
+    return choleskyFactorGeneral(Pivots{}, src.object(k, side), dst.object(k, side), side);
   });
 }
 
 // Pointer layout: the other sides go to the kernel of the single object, which Single names.
 template <class Single, class Source, class Result>
-ZELM_INLINE ZelStatus choleskyFactorsBySingle(Single, const Source& src, const Result& dst, Size side, int32_t count) {
+ZELM_INLINE ZelStatus choleskyFactorsBySingle(const Source& src, const Result& dst, Size side, int32_t count) {
   return choleskyFactorBatch(typename Single::Pivots{}, src, dst, side, count,
                              [&](int64_t k) ZELM_BODY { return Single::kernel(src.single(k), dst.single(k), side); });
 }
@@ -272,10 +235,8 @@ ZELM_INLINE void choleskySolveFixed(const Factor& factor, const Right& right, co
 }
 
 // Single objects.
-struct Straight3To6 {};
 template <class Factor, class Right, class Result>
-ZELM_INLINE ZelStatus choleskySolutions(Straight3To6, const Factor& src1, const Right& src2, const Result& dst,
-                                        int32_t side) {
+ZELM_INLINE ZelStatus choleskySolutions(const Factor& src1, const Right& src2, const Result& dst, int32_t side) {
   using T = typename Result::Element;
   const auto factor = src1.object(0, side);
   const auto right = src2.object(0);
@@ -319,8 +280,8 @@ ZELM_NOINLINE void choleskySolveBlock(const L* factor, const Right& right, const
 
 // Batches.
 template <class Factor, class Right, class Result>
-ZELM_INLINE ZelStatus choleskySolutions(Straight3To6, const Factor& src1, const Right& src2, const Result& dst,
-                                        int32_t side, int32_t count) {
+ZELM_INLINE ZelStatus choleskySolutions(const Factor& src1, const Right& src2, const Result& dst, int32_t side,
+                                        int32_t count) {
   using T = typename Result::Element;
   return forSize(
       StraightSides{}, side,

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line sides
-KERNEL(ownzelmCholeskyBackSubst_mava_32f,   CHOLESKY_SOLVE_MAVA_S, UNIT, float, choleskySolutions, Straight3To6)
-KERNEL(ownzelmCholeskyBackSubst_mava_32f_L, CHOLESKY_SOLVE_MAVA_L, UNIT, float, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mava_32f,   CHOLESKY_SOLVE_MAVA, S, UNIT, float, choleskySolutions)
+KERNEL(ownzelmCholeskyBackSubst_mava_32f_L, CHOLESKY_SOLVE_MAVA, L, UNIT, float, choleskySolutions)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line sides
-KERNEL(ownzelmCholeskyBackSubst_mava_64f,   CHOLESKY_SOLVE_MAVA_S, UNIT, double, choleskySolutions, Straight3To6)
-KERNEL(ownzelmCholeskyBackSubst_mava_64f_L, CHOLESKY_SOLVE_MAVA_L, UNIT, double, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mava_64f,   CHOLESKY_SOLVE_MAVA, S, UNIT, double, choleskySolutions)
+KERNEL(ownzelmCholeskyBackSubst_mava_64f_L, CHOLESKY_SOLVE_MAVA, L, UNIT, double, choleskySolutions)
 // clang-format on

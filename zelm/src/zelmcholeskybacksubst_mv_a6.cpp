@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line sides
-KERNEL(ownzelmCholeskyBackSubst_mv_32f, CHOLESKY_SOLVE_MV_S, UNIT, float, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mv_32f, CHOLESKY_SOLVE_MV, S, UNIT, float, choleskySolutions)
 // clang-format on

@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line sides
-KERNEL(ownzelmCholeskyBackSubst_mv_64f, CHOLESKY_SOLVE_MV_S, UNIT, double, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mv_64f, CHOLESKY_SOLVE_MV, S, UNIT, double, choleskySolutions)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line sides
-KERNEL(ownzelmCholeskyBackSubst_mva_32f,   CHOLESKY_SOLVE_MVA_S, UNIT, float, choleskySolutions, Straight3To6)
-KERNEL(ownzelmCholeskyBackSubst_mva_32f_L, CHOLESKY_SOLVE_MVA_L, UNIT, float, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_32f,   CHOLESKY_SOLVE_MVA, S, UNIT, float, choleskySolutions)
+KERNEL(ownzelmCholeskyBackSubst_mva_32f_L, CHOLESKY_SOLVE_MVA, L, UNIT, float, choleskySolutions)
 // clang-format on

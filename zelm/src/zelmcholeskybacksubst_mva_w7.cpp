@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line sides
-KERNEL(ownzelmCholeskyBackSubst_mva_64f,   CHOLESKY_SOLVE_MVA_S, UNIT, double, choleskySolutions, Straight3To6)
-KERNEL(ownzelmCholeskyBackSubst_mva_64f_L, CHOLESKY_SOLVE_MVA_L, UNIT, double, choleskySolutions, Straight3To6)
+KERNEL(ownzelmCholeskyBackSubst_mva_64f,   CHOLESKY_SOLVE_MVA, S, UNIT, double, choleskySolutions)
+KERNEL(ownzelmCholeskyBackSubst_mva_64f_L, CHOLESKY_SOLVE_MVA, L, UNIT, double, choleskySolutions)
 // clang-format on

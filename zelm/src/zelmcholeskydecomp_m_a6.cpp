@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  pivots
-KERNEL(ownzelmCholeskyDecomp_m_32f, CHOLESKY_FACTOR_M_S, UNIT, float, choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_m_32f, CHOLESKY_FACTOR_M, S, UNIT, float, choleskyFactors<AboveZero>)
 // clang-format on

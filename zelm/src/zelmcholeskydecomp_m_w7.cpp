@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  pivots
-KERNEL(ownzelmCholeskyDecomp_m_64f, CHOLESKY_FACTOR_M_S, UNIT, double, choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_m_64f, CHOLESKY_FACTOR_M, S, UNIT, double, choleskyFactors<AboveZero>)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  pivots
-KERNEL(ownzelmCholeskyDecomp_ma_32f,   CHOLESKY_FACTOR_MA_S, UNIT, float, choleskyFactors, AboveZero)
-KERNEL(ownzelmCholeskyDecomp_ma_32f_L, CHOLESKY_FACTOR_MA_L, UNIT, float, choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_ma_32f,   CHOLESKY_FACTOR_MA, S, UNIT, float, choleskyFactors<AboveZero>)
+KERNEL(ownzelmCholeskyDecomp_ma_32f_L, CHOLESKY_FACTOR_MA, L, UNIT, float, choleskyFactors<AboveZero>)
 // clang-format on

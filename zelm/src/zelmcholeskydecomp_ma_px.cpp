@@ -1,8 +1,8 @@
 // Portable kernels: Cholesky decomposition of an array of matrices, any strides and pointer layout.
 #include "zelmcholesky.h"
 
-ZELM_DECLARE(ownzelmCholeskyDecomp_m_32f_P, CHOLESKY_FACTOR_M_P, ANY, float);
-ZELM_DECLARE(ownzelmCholeskyDecomp_m_64f_P, CHOLESKY_FACTOR_M_P, ANY, double);
+ZELM_DECLARE(ownzelmCholeskyDecomp_m_32f_P, CHOLESKY_FACTOR_M, P, ANY, float);
+ZELM_DECLARE(ownzelmCholeskyDecomp_m_64f_P, CHOLESKY_FACTOR_M, P, ANY, double);
 
 namespace zelm {
 
@@ -19,14 +19,14 @@ struct Single64fP {
 
 // clang-format off
 //     kernel  arguments strides type  body  pivots
-KERNEL(ownzelmCholeskyDecomp_ma_32f_S2, CHOLESKY_FACTOR_MA_S, ANY, float, choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_ma_32f_S2, CHOLESKY_FACTOR_MA, S, ANY, float, choleskyFactors<AboveZero>)
 // Alone with this limit; its sibling in the list layout has none.
-KERNEL(ownzelmCholeskyDecomp_ma_64f_S2, CHOLESKY_FACTOR_MA_S, ANY, double, choleskyFactors, AboveEpsilonFrom6On)
-KERNEL(ownzelmCholeskyDecomp_ma_32f_LS2, CHOLESKY_FACTOR_MA_L, ANY, float,  choleskyFactors, AboveZero)
-KERNEL(ownzelmCholeskyDecomp_ma_64f_LS2, CHOLESKY_FACTOR_MA_L, ANY, double, choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_ma_64f_S2, CHOLESKY_FACTOR_MA, S, ANY, double, choleskyFactors<AboveEpsilonFrom6On>)
+KERNEL(ownzelmCholeskyDecomp_ma_32f_LS2, CHOLESKY_FACTOR_MA, L, ANY, float,  choleskyFactors<AboveZero>)
+KERNEL(ownzelmCholeskyDecomp_ma_64f_LS2, CHOLESKY_FACTOR_MA, L, ANY, double, choleskyFactors<AboveZero>)
 
 // Sides without straight-line code go to the kernel of the single object.
 //     kernel  arguments strides type  body  single
-KERNEL(ownzelmCholeskyDecomp_ma_32f_P, CHOLESKY_FACTOR_MA_P, ANY, float,  choleskyFactorsBySingle, Single32fP)
-KERNEL(ownzelmCholeskyDecomp_ma_64f_P, CHOLESKY_FACTOR_MA_P, ANY, double, choleskyFactorsBySingle, Single64fP)
+KERNEL(ownzelmCholeskyDecomp_ma_32f_P, CHOLESKY_FACTOR_MA, P, ANY, float,  choleskyFactorsBySingle<Single32fP>)
+KERNEL(ownzelmCholeskyDecomp_ma_64f_P, CHOLESKY_FACTOR_MA, P, ANY, double, choleskyFactorsBySingle<Single64fP>)
 // clang-format on

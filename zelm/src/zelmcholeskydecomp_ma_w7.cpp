@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  pivots
-KERNEL(ownzelmCholeskyDecomp_ma_64f,   CHOLESKY_FACTOR_MA_S, UNIT, double, choleskyFactors, AboveZero)
-KERNEL(ownzelmCholeskyDecomp_ma_64f_L, CHOLESKY_FACTOR_MA_L, UNIT, double, choleskyFactors, AboveZero)
+KERNEL(ownzelmCholeskyDecomp_ma_64f,   CHOLESKY_FACTOR_MA, S, UNIT, double, choleskyFactors<AboveZero>)
+KERNEL(ownzelmCholeskyDecomp_ma_64f_L, CHOLESKY_FACTOR_MA, L, UNIT, double, choleskyFactors<AboveZero>)
 // clang-format on

@@ -28,6 +28,13 @@ constexpr int previous(int n) {
   return n - 1;
 }
 
+template <class Width, class Height> ZELM_INLINE constexpr auto product(Width width, Height height) {
+  if constexpr (isFixed<Width> && isFixed<Height>)
+    return Fixed<width * height>{};
+  else
+    return width * height;
+}
+
 template <int First, class F, int... I>
 ZELM_INLINE void ascendingFixed(const F& body, std::integer_sequence<int, I...>) {
   (body(Fixed<First + I>{}), ...);

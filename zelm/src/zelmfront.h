@@ -1,46 +1,46 @@
-// The parallel fronts: one share of the objects for each thread.
+// The parallel fronts: who runs which of a call's objects.
+//
+// The objects are split into shares, contiguous and ascending, one for each of n threads. How many threads run them
+// depends on the work: all n, each its share; fewer, each some neighbouring shares one after the other; or the caller
+// alone, all of them, and then nobody is woken. A failing share stops and the others go on, whoever runs them, so that
+// what a failure leaves does not depend on the work.
 #pragma once
 
 #include "zelmframe.h"
+
+// How many of `threads` threads a call feeds that is worth so many additions: from 1 to threads.
+extern "C" int32_t ownGetTeamSize(int32_t threads, double additions);
 
 namespace zelm {
 
 // One share of a front's work; `call` is what the front wants done.
 using ShareFunction = ZelStatus (*)(const void* call, const Share& share);
 
-// Forks: splits count objects over the team, contiguous and ascending, and calls work(call, share) on each thread.
-// Each of `threads` threads has scratchBytes of the front's block. Returns false if the block cannot be had; nothing
-// has been done then. Kernels that cannot fail need no merge: their statuses are discarded.
-bool runOnTeam(int32_t threads, int32_t count, int32_t scratchBytes, ShareFunction work, const void* call);
-// The same for kernels that can fail: the first failure to arrive is stored to status.
-bool runOnTeamMerging(int32_t threads, int32_t count, int32_t scratchBytes, ShareFunction work, const void* call,
-                      ZelStatus& status);
+struct Forked {
+  int32_t threads;      // as many as there are shares
+  int32_t team;         // those that the work feeds: 1 to threads
+  int32_t count;        // of the objects, at least as many as threads
+  int32_t scratchBytes; // for each thread of the team
+  ShareFunction work;
+  const void* call;
+};
+
+// Calls work(call, share) until every object is done. Returns false if the scratch cannot be had; nothing has been done
+// then. Kernels that cannot fail get neighbouring shares in one call, and their statuses are discarded.
+bool runShares(const Forked& forked);
+// Kernels that can fail get each share as a call of its own; the first failure to arrive is stored to status.
+bool runSharesMerging(const Forked& forked, ZelStatus& status);
 
 struct Discards {
-  static bool run(int32_t threads, int32_t count, int32_t scratchBytes, ShareFunction work, const void* call,
-                  ZelStatus&) {
-    return runOnTeam(threads, count, scratchBytes, work, call);
-  }
+  static bool run(const Forked& forked, ZelStatus&) { return runShares(forked); }
 };
 struct Merges {
-  static bool run(int32_t threads, int32_t count, int32_t scratchBytes, ShareFunction work, const void* call,
-                  ZelStatus& status) {
-    return runOnTeamMerging(threads, count, scratchBytes, work, call, status);
-  }
+  static bool run(const Forked& forked, ZelStatus& status) { return runSharesMerging(forked, status); }
 };
 
-template <class... A> constexpr int32_t countOf(const A&... a) {
-  int32_t count = 0;
-  const auto look = [&count](const auto& argument) {
-    if constexpr (std::is_same_v<std::decay_t<decltype(argument)>, Count>)
-      count = argument;
-  };
-  (look(a), ...);
-  return count;
-}
-
-// `kernel(a...)` runs the kernel of the branch on any share of the arguments.
-template <class Statuses, class Kernel, class... A> inline ZelStatus fork(Kernel kernel, const A&... a) {
+// `kernel(a...)` runs the kernel of the branch on any share of the arguments; the call is worth so many additions.
+template <class Statuses, class Kernel, class... A>
+inline ZelStatus fork(Kernel kernel, double additions, const A&... a) {
   const int32_t threads = ownGetNumThreads();
   const int32_t count = countOf(a...);
   if (threads < 2 || count < threads)
@@ -49,36 +49,54 @@ template <class Statuses, class Kernel, class... A> inline ZelStatus fork(Kernel
   const ShareFunction work = [](const void* call, const Share& part) {
     return (*static_cast<decltype(&share)>(call))(part);
   };
+  const Forked forked{threads, ownGetTeamSize(threads, additions), count, (a.scratch() + ... + 0), work, &share};
   ZelStatus status = zelStatusOk;
-  // Without the block the front falls back on the unthreaded kernel and the caller's buffer.
-  return Statuses::run(threads, count, (a.scratch() + ... + 0), work, &share, status) ? status : kernel(a...);
+  // Without scratch the front falls back on the unthreaded kernel and the caller's buffer.
+  return Statuses::run(forked, status) ? status : kernel(a...);
 }
 
+// Lanes hold half as many doubles.
+template <class T, class Work, class... A> inline double workOf(const Work& work, const A&... a) {
+  return estimateOf(work, a...) * (sizeof(T) / sizeof(float));
+}
+// Strides other than the element size make little of it where the arithmetic outweighs loads and stores.
+template <class Work, class = void> inline constexpr double scattered = 1;
+template <class Work> inline constexpr double scattered<Work, std::void_t<decltype(Work::scattered)>> = Work::scattered;
+
 // Standard and list layout.
-template <class Statuses, class Unit, class Any, class... A>
-inline ZelStatus front(Unit unitKernel, Any anyKernel, const A&... a) {
+template <class Statuses, class T, class Work, class Unit, class Any, class... A>
+inline ZelStatus front(const Work& work, Unit unitKernel, Any anyKernel, const A&... a) {
+  const double additions = workOf<T>(work, a...);
   if (unitStrides(a...))
-    return fork<Statuses>([unitKernel](const auto&... b) { return callUnit(unitKernel, b...); }, a...);
-  return fork<Statuses>([anyKernel](const auto&... b) { return anyKernel(b...); }, a...);
+    return fork<Statuses>([unitKernel](const auto&... b) { return callUnit(unitKernel, b...); }, additions, a...);
+  return fork<Statuses>([anyKernel](const auto&... b) { return anyKernel(b...); }, scattered<Work> * additions, a...);
 }
 
 // Pointer layout.
-template <class Statuses, class Kernel, class... A> inline ZelStatus frontPointer(Kernel kernel, const A&... a) {
-  return fork<Statuses>([kernel](const auto&... b) { return kernel(b...); }, a...);
+template <class Statuses, class T, class Work, class Kernel, class... A>
+inline ZelStatus frontPointer(const Work& work, Kernel kernel, const A&... a) {
+  return fork<Statuses>([kernel](const auto&... b) { return kernel(b...); }, workOf<T>(work, a...), a...);
 }
 
 } // namespace zelm
 
-// Rows of fronts. STATUSES is Merges for the families whose kernels can fail, Discards for the others.
-#define FRONT(FRONT_NAME, SIG, T, STATUSES, UNIT_KERNEL, ANY_KERNEL)                                                   \
-  ZELM_DECLARE(UNIT_KERNEL, SIG, UNIT, T);                                                                             \
-  ZELM_DECLARE(ANY_KERNEL, SIG, ANY, T);                                                                               \
-  extern "C" ZelStatus FRONT_NAME(SIG(ANY, T)) {                                                                       \
-    return zelm::front<zelm::STATUSES>(UNIT_KERNEL, ANY_KERNEL, SIG(NAME, T));                                         \
+// Rows of fronts. STATUSES is Merges for the families whose kernels can fail, Discards for the others. What a call is
+// worth stands beside the signature, as ZELM_WORK(SIG).
+#define FRONT(FRONT_NAME, SIG, Y, T, STATUSES, UNIT_KERNEL, ANY_KERNEL)                                                \
+  namespace zelm {                                                                                                     \
+  struct SIG##_Work;                                                                                                   \
+  }                                                                                                                    \
+  ZELM_DECLARE(UNIT_KERNEL, SIG, Y, UNIT, T);                                                                          \
+  ZELM_DECLARE(ANY_KERNEL, SIG, Y, ANY, T);                                                                            \
+  extern "C" ZelStatus FRONT_NAME(SIG(ANY, Y, T)) {                                                                    \
+    return zelm::front<zelm::STATUSES, T>(zelm::workFor<zelm::SIG##_Work>, UNIT_KERNEL, ANY_KERNEL, SIG(NAME, Y, T));  \
   }
 
-#define FRONT_POINTER(FRONT_NAME, SIG, T, STATUSES, KERNEL)                                                            \
-  ZELM_DECLARE(KERNEL, SIG, ANY, T);                                                                                   \
-  extern "C" ZelStatus FRONT_NAME(SIG(ANY, T)) {                                                                       \
-    return zelm::frontPointer<zelm::STATUSES>(KERNEL, SIG(NAME, T));                                                   \
+#define FRONT_POINTER(FRONT_NAME, SIG, Y, T, STATUSES, KERNEL)                                                         \
+  namespace zelm {                                                                                                     \
+  struct SIG##_Work;                                                                                                   \
+  }                                                                                                                    \
+  ZELM_DECLARE(KERNEL, SIG, Y, ANY, T);                                                                                \
+  extern "C" ZelStatus FRONT_NAME(SIG(ANY, Y, T)) {                                                                    \
+    return zelm::frontPointer<zelm::STATUSES, T>(zelm::workFor<zelm::SIG##_Work>, KERNEL, SIG(NAME, Y, T));            \
   }

@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  sum
-KERNEL(ownzelmGaxpy_mv_32f, GAXPY_MV_S, UNIT, float, multiplyAddVectors, EvenOdd)
+KERNEL(ownzelmGaxpy_mv_32f, GAXPY_MV, S, UNIT, float, multiplyAddVectors<EvenOdd>)
 // clang-format on

@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  sum
-KERNEL(ownzelmGaxpy_mv_64f, GAXPY_MV_S, UNIT, double, multiplyAddVectors, Pairs64)
+KERNEL(ownzelmGaxpy_mv_64f, GAXPY_MV, S, UNIT, double, multiplyAddVectors<Pairs64>)
 // clang-format on

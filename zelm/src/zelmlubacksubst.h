@@ -5,19 +5,7 @@
 #pragma once
 
 #include "zelmbatch.h"
-
-// clang-format off
-#define LUBACKSUBST(V, T, A, B, D, each) V##_##A(src1, const T), V##_PLAIN(index, const int32_t, each), V##_##B(src2, const T), V##_##D(dst, T), V##_SIZE(widthHeight)
-// One matrix and its index serve all vectors of mva.
-#define LUBACKSUBST_MV_S(V, T)   LUBACKSUBST(V, T, M_S,  V_S,  V_S,  0)
-#define LUBACKSUBST_MV_P(V, T)   LUBACKSUBST(V, T, M_P,  V_P,  V_P,  0)
-#define LUBACKSUBST_MVA_S(V, T)  LUBACKSUBST(V, T, M_S,  VA_S, VA_S, 0), V##_COUNT
-#define LUBACKSUBST_MVA_L(V, T)  LUBACKSUBST(V, T, M_S,  VA_L, VA_L, 0), V##_COUNT
-#define LUBACKSUBST_MVA_P(V, T)  LUBACKSUBST(V, T, M_P,  VA_P, VA_P, 0), V##_COUNT
-#define LUBACKSUBST_MAVA_S(V, T) LUBACKSUBST(V, T, MA_S, VA_S, VA_S, widthHeight), V##_COUNT
-#define LUBACKSUBST_MAVA_L(V, T) LUBACKSUBST(V, T, MA_L, VA_L, VA_L, widthHeight), V##_COUNT
-#define LUBACKSUBST_MAVA_P(V, T) LUBACKSUBST(V, T, MA_P, VA_P, VA_P, widthHeight), V##_COUNT
-// clang-format on
+#include "zelmlusignature.h"
 
 namespace zelm {
 
@@ -168,27 +156,34 @@ ZELM_INLINE void loadIndex(const PlainAddresses<T, const int32_t>& index, Intege
     ZELM_UNROLL
     for (int i = 0; i < N; ++i)
       p[i] = reinterpret_cast<IntegerOf<Lanes<T>>>(lanes[i]);
-  } else {
-#ifdef __AVX2__
+  } else if constexpr (laneCount<T> > 2) {
+    // Four places of four objects, turned and widened.
+    using Four = LanesOf<int64_t, 4>;
     ZELM_UNROLL
     for (int i = 0; i < N; i += 4) {
       const int from = i + 4 <= N || N < 4 ? i : N - 4;
-      __m128 row[4];
+      Four wide[4][laneCount<T> / 4];
       ZELM_UNROLL
-      for (int w = 0; w < 4; ++w) {
-        const char* const at = reinterpret_cast<const char*>(index.of[w] + from);
-        if constexpr (N == 3)
-          row[w] = loadTriple(at);
-        else
-          row[w] = loadLanes<float, 4>(at);
+      for (int g = 0; g < laneCount<T> / 4; ++g) {
+        Lanes<float, 4> row[4];
+        ZELM_UNROLL
+        for (int w = 0; w < 4; ++w) {
+          const char* const at = reinterpret_cast<const char*>(index.of[4 * g + w] + from);
+          if constexpr (N == 3)
+            row[w] = loadTriple(at);
+          else
+            row[w] = loadLanes<float, 4>(at);
+        }
+        transposeChunk(row);
+        ZELM_UNROLL
+        for (int q = 0; q < 4; ++q)
+          wide[q][g] = __builtin_convertvector(reinterpret_cast<LanesOf<int32_t, 4>>(row[q]), Four);
       }
-      _MM_TRANSPOSE4_PS(row[0], row[1], row[2], row[3]);
       ZELM_UNROLL
       for (int q = 0; q < 4; ++q)
         if (from + q < N)
-          p[from + q] = reinterpret_cast<IntegerOf<Lanes<T>>>(_mm256_cvtepi32_epi64(_mm_castps_si128(row[q])));
+          std::memcpy(&p[from + q], wide[q], sizeof p[0]);
     }
-#endif
   }
 }
 
@@ -222,7 +217,7 @@ ZELM_NOINLINE bool substituteElements(const Positions<N * N>& src1Positions, con
   LuFactors<L, N> f;
   Tile<L, 1, N> x;
   const PlainAddresses<T, const int32_t> places = index;
-  if constexpr (laneCount<T> == 2 || (vectorBytes == 16 && N > 4)) {
+  if constexpr (laneCount<T> == 2 || (!hasBlends && N > 4)) {
     // Loads of single elements are less than exchanges of rows without blend instructions.
     ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
       const std::intptr_t* row[laneCount<T>];
@@ -301,10 +296,9 @@ inline void substitutePairs(const A& src1, const Plain<const int32_t>& index, co
 using FixedSizes = Sizes<3, 4, 5, 6>;
 
 // mv
-struct OneVector {};
 template <class A, class B, class D>
-inline ZelStatus solve(OneVector, const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
-                       int32_t widthHeight) {
+inline ZelStatus solveOne(const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                          int32_t widthHeight) {
   return forSize(
       FixedSizes{}, widthHeight,
       [&](auto side) {
@@ -320,10 +314,9 @@ inline ZelStatus solve(OneVector, const A& src1, const Plain<const int32_t>& ind
 }
 
 // mva
-struct OneMatrix {};
 template <class A, class B, class D>
-inline ZelStatus solve(OneMatrix, const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
-                       int32_t widthHeight, int32_t count) {
+inline ZelStatus solveVectors(const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                              int32_t widthHeight, int32_t count) {
   return forSize(
       FixedSizes{}, widthHeight,
       [&](auto side) {
@@ -342,10 +335,9 @@ inline ZelStatus solve(OneMatrix, const A& src1, const Plain<const int32_t>& ind
 }
 
 // mava
-struct Pairs {};
 template <class A, class B, class D>
-inline ZelStatus solve(Pairs, const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
-                       int32_t widthHeight, int32_t count) {
+inline ZelStatus solveSystems(const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                              int32_t widthHeight, int32_t count) {
   return forSize(
       FixedSizes{}, widthHeight,
       [&](auto side) {

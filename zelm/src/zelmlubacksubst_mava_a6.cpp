@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel                         arguments           strides type   body   case
-KERNEL(ownzelmLUBackSubst_mava_32f,   LUBACKSUBST_MAVA_S, UNIT,   float, solve, Pairs)
-KERNEL(ownzelmLUBackSubst_mava_32f_L, LUBACKSUBST_MAVA_L, UNIT,   float, solve, Pairs)
+KERNEL(ownzelmLUBackSubst_mava_32f,   LUBACKSUBST_MAVA, S, UNIT,   float, solveSystems)
+KERNEL(ownzelmLUBackSubst_mava_32f_L, LUBACKSUBST_MAVA, L, UNIT,   float, solveSystems)
 // clang-format on

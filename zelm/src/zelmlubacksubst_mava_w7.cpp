@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel                         arguments           strides type    body   case
-KERNEL(ownzelmLUBackSubst_mava_64f,   LUBACKSUBST_MAVA_S, UNIT,   double, solve, Pairs)
-KERNEL(ownzelmLUBackSubst_mava_64f_L, LUBACKSUBST_MAVA_L, UNIT,   double, solve, Pairs)
+KERNEL(ownzelmLUBackSubst_mava_64f,   LUBACKSUBST_MAVA, S, UNIT,   double, solveSystems)
+KERNEL(ownzelmLUBackSubst_mava_64f_L, LUBACKSUBST_MAVA, L, UNIT,   double, solveSystems)
 // clang-format on

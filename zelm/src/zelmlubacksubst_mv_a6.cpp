@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel                     arguments         strides type   body   case
-KERNEL(ownzelmLUBackSubst_mv_32f, LUBACKSUBST_MV_S, UNIT,   float, solve, OneVector)
+KERNEL(ownzelmLUBackSubst_mv_32f, LUBACKSUBST_MV, S, UNIT,   float, solveOne)
 // clang-format on

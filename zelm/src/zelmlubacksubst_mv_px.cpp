@@ -3,8 +3,8 @@
 
 // clang-format off
 //     kernel                        arguments         strides type    body   case
-KERNEL(ownzelmLUBackSubst_mv_32f_S2, LUBACKSUBST_MV_S, ANY,    float,  solve, OneVector)
-KERNEL(ownzelmLUBackSubst_mv_64f_S2, LUBACKSUBST_MV_S, ANY,    double, solve, OneVector)
-KERNEL(ownzelmLUBackSubst_mv_32f_P,  LUBACKSUBST_MV_P, ANY,    float,  solve, OneVector)
-KERNEL(ownzelmLUBackSubst_mv_64f_P,  LUBACKSUBST_MV_P, ANY,    double, solve, OneVector)
+KERNEL(ownzelmLUBackSubst_mv_32f_S2, LUBACKSUBST_MV, S, ANY,    float,  solveOne)
+KERNEL(ownzelmLUBackSubst_mv_64f_S2, LUBACKSUBST_MV, S, ANY,    double, solveOne)
+KERNEL(ownzelmLUBackSubst_mv_32f_P,  LUBACKSUBST_MV, P, ANY,    float,  solveOne)
+KERNEL(ownzelmLUBackSubst_mv_64f_P,  LUBACKSUBST_MV, P, ANY,    double, solveOne)
 // clang-format on

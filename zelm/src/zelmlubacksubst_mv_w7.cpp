@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel                     arguments         strides type    body   case
-KERNEL(ownzelmLUBackSubst_mv_64f, LUBACKSUBST_MV_S, UNIT,   double, solve, OneVector)
+KERNEL(ownzelmLUBackSubst_mv_64f, LUBACKSUBST_MV, S, UNIT,   double, solveOne)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel                        arguments          strides type   body   case
-KERNEL(ownzelmLUBackSubst_mva_32f,   LUBACKSUBST_MVA_S, UNIT,   float, solve, OneMatrix)
-KERNEL(ownzelmLUBackSubst_mva_32f_L, LUBACKSUBST_MVA_L, UNIT,   float, solve, OneMatrix)
+KERNEL(ownzelmLUBackSubst_mva_32f,   LUBACKSUBST_MVA, S, UNIT,   float, solveVectors)
+KERNEL(ownzelmLUBackSubst_mva_32f_L, LUBACKSUBST_MVA, L, UNIT,   float, solveVectors)
 // clang-format on

@@ -3,10 +3,10 @@
 
 // clang-format off
 //     kernel                          arguments          strides type    body   case
-KERNEL(ownzelmLUBackSubst_mva_32f_S2,  LUBACKSUBST_MVA_S, ANY,    float,  solve, OneMatrix)
-KERNEL(ownzelmLUBackSubst_mva_64f_S2,  LUBACKSUBST_MVA_S, ANY,    double, solve, OneMatrix)
-KERNEL(ownzelmLUBackSubst_mva_32f_LS2, LUBACKSUBST_MVA_L, ANY,    float,  solve, OneMatrix)
-KERNEL(ownzelmLUBackSubst_mva_64f_LS2, LUBACKSUBST_MVA_L, ANY,    double, solve, OneMatrix)
-KERNEL(ownzelmLUBackSubst_mva_32f_P,   LUBACKSUBST_MVA_P, ANY,    float,  solve, OneMatrix)
-KERNEL(ownzelmLUBackSubst_mva_64f_P,   LUBACKSUBST_MVA_P, ANY,    double, solve, OneMatrix)
+KERNEL(ownzelmLUBackSubst_mva_32f_S2,  LUBACKSUBST_MVA, S, ANY,    float,  solveVectors)
+KERNEL(ownzelmLUBackSubst_mva_64f_S2,  LUBACKSUBST_MVA, S, ANY,    double, solveVectors)
+KERNEL(ownzelmLUBackSubst_mva_32f_LS2, LUBACKSUBST_MVA, L, ANY,    float,  solveVectors)
+KERNEL(ownzelmLUBackSubst_mva_64f_LS2, LUBACKSUBST_MVA, L, ANY,    double, solveVectors)
+KERNEL(ownzelmLUBackSubst_mva_32f_P,   LUBACKSUBST_MVA, P, ANY,    float,  solveVectors)
+KERNEL(ownzelmLUBackSubst_mva_64f_P,   LUBACKSUBST_MVA, P, ANY,    double, solveVectors)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel                        arguments          strides type    body   case
-KERNEL(ownzelmLUBackSubst_mva_64f,   LUBACKSUBST_MVA_S, UNIT,   double, solve, OneMatrix)
-KERNEL(ownzelmLUBackSubst_mva_64f_L, LUBACKSUBST_MVA_L, UNIT,   double, solve, OneMatrix)
+KERNEL(ownzelmLUBackSubst_mva_64f,   LUBACKSUBST_MVA, S, UNIT,   double, solveVectors)
+KERNEL(ownzelmLUBackSubst_mva_64f_L, LUBACKSUBST_MVA, L, UNIT,   double, solveVectors)
 // clang-format on

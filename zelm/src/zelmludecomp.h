@@ -5,21 +5,16 @@
 #pragma once
 
 #include "zelmbatch.h"
+#include "zelmlusignature.h"
 
 // clang-format off
-#define LUDECOMP_M_S(V, T)   V##_M_S(src, const T),  V##_PLAIN(index, int32_t, widthHeight), V##_M_S(dst, T),  V##_SIZE(widthHeight)
-#define LUDECOMP_M_P(V, T)   V##_M_P(src, const T),  V##_PLAIN(index, int32_t, widthHeight), V##_M_P(dst, T),  V##_SIZE(widthHeight)
-#define LUDECOMP_MA_S(V, T)  V##_MA_S(src, const T), V##_PLAIN(index, int32_t, widthHeight), V##_MA_S(dst, T), V##_SIZE(widthHeight), V##_COUNT
-#define LUDECOMP_MA_L(V, T)  V##_MA_L(src, const T), V##_PLAIN(index, int32_t, widthHeight), V##_MA_L(dst, T), V##_SIZE(widthHeight), V##_COUNT
-#define LUDECOMP_MA_P(V, T)  V##_MA_P(src, const T), V##_PLAIN(index, int32_t, widthHeight), V##_MA_P(dst, T), V##_SIZE(widthHeight), V##_COUNT
-
 // General loops, which the kernels call for sides other than 3 to 6.
-ZELM_DECLARE(ownzelmLUDecomp_m_32f_S_com,  LUDECOMP_M_S, UNIT, float);
-ZELM_DECLARE(ownzelmLUDecomp_m_64f_S_com,  LUDECOMP_M_S, UNIT, double);
-ZELM_DECLARE(ownzelmLUDecomp_m_32f_S2_com, LUDECOMP_M_S, ANY,  float);
-ZELM_DECLARE(ownzelmLUDecomp_m_64f_S2_com, LUDECOMP_M_S, ANY,  double);
-ZELM_DECLARE(ownzelmLUDecomp_m_32f_P_com,  LUDECOMP_M_P, ANY,  float);
-ZELM_DECLARE(ownzelmLUDecomp_m_64f_P_com,  LUDECOMP_M_P, ANY,  double);
+ZELM_DECLARE(ownzelmLUDecomp_m_32f_S_com,  LUDECOMP_M, S, UNIT, float);
+ZELM_DECLARE(ownzelmLUDecomp_m_64f_S_com,  LUDECOMP_M, S, UNIT, double);
+ZELM_DECLARE(ownzelmLUDecomp_m_32f_S2_com, LUDECOMP_M, S, ANY,  float);
+ZELM_DECLARE(ownzelmLUDecomp_m_64f_S2_com, LUDECOMP_M, S, ANY,  double);
+ZELM_DECLARE(ownzelmLUDecomp_m_32f_P_com,  LUDECOMP_M, P, ANY,  float);
+ZELM_DECLARE(ownzelmLUDecomp_m_64f_P_com,  LUDECOMP_M, P, ANY,  double);
 // clang-format on
 
 namespace zelm {
@@ -32,10 +27,7 @@ template <class T> constexpr T loopLimit = static_cast<T>(sizeof(T) == 4 ? 0x1p-
 // ---------------------------------------------------------------------------------------------------------------------
 // General loop, one object, in dst
 
-struct InDst {};
-
-template <class S, class D>
-inline ZelStatus decomposeLoop(InDst, const S& source, int32_t* p, const D& result, int32_t n) {
+template <class S, class D> inline ZelStatus decomposeLoop(const S& source, int32_t* p, const D& result, int32_t n) {
   using T = typename D::Element;
   const auto src = source.object(0, n);
   const auto dst = result.object(0, n);
@@ -149,18 +141,19 @@ ZELM_INLINE ZelStatus decomposeOne(const S& src, int32_t* index, const D& dst) {
 template <class T, int N, bool Follow> struct LuBlock {
   using L = Lanes<T>;
   using I = IntegerOf<L>;
+  using M = MaskOf<L>;
   static constexpr int exchanges = N - 1;
   L column[N][N];
-  I with[exchanges][N];
+  M with[exchanges][N];
   I p[N];
 
   // load(i, j) is an element of the source. False if a lane is singular.
   template <class Load> ZELM_INLINE bool eliminate(const Load& load) {
-    I singular{};
+    M singular{};
     L place[N];
-    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { place[i] = reinterpret_cast<L>(i.value - I{}); });
+    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { place[i] = reinterpret_cast<L>(I{} + i.value); });
     ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
-      singular |= splat<L>(fixedLimit<T>) > step(j, load);
+      singular = either(singular, greater(splat<L>(fixedLimit<T>), step(j, load)));
       if constexpr (j < exchanges) {
         exchange(j, with[j], place);
         if constexpr (Follow)
@@ -168,7 +161,7 @@ template <class T, int N, bool Follow> struct LuBlock {
       }
     });
     ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { p[i] = reinterpret_cast<I>(place[i]); });
-    return !anyLane(singular);
+    return !any(singular);
   }
 
   // Column j in the order of the source, where nothing followed.
@@ -211,26 +204,30 @@ private:
     L largest = magnitude(x[k]);
     ascending(next(k), Fixed<N>{}, [&](auto i) ZELM_BODY {
       const L candidate = magnitude(x[i]);
-      with[k][i] = candidate > largest;
+      with[k][i] = greater(candidate, largest);
       largest = larger(candidate, largest);
     });
-    I replaced = with[k][N - 1];
+    M replaced = with[k][N - 1];
     descending(next(k), Fixed<N - 1>{}, [&](auto i) ZELM_BODY {
-      const I replaces = with[k][i];
+      const M replaces = with[k][i];
       with[k][i] = without(replaces, replaced);
-      replaced |= replaces;
+      replaced = either(replaced, replaces);
     });
     return largest;
   }
 };
 
-#ifdef __AVX2__
-// The lower halves of four 64-bit integers, as bits.
-ZELM_INLINE Lanes<float, 4> lowerHalves(IntegerOf<Lanes<double>> v) {
-  const auto halves = reinterpret_cast<Lanes<float, 8>>(v);
-  return __builtin_shufflevector(halves, halves, 0, 2, 4, 6);
+// The lower halves of four 64-bit integers, from lane w on, as bits.
+template <class T> ZELM_INLINE Lanes<float, 4> lowerHalves(const IntegerOf<Lanes<T>>& v, int w) {
+  if constexpr (laneCount<T> == 4) {
+    const auto halves = reinterpret_cast<Lanes<float, 8>>(v);
+    return __builtin_shufflevector(halves, halves, 0, 2, 4, 6);
+  } else {
+    const auto halves = reinterpret_cast<Lanes<float, 16>>(v);
+    return w == 0 ? __builtin_shufflevector(halves, halves, 0, 2, 4, 6)
+                  : __builtin_shufflevector(halves, halves, 8, 10, 12, 14);
+  }
 }
-#endif
 
 template <class T, int N>
 ZELM_INLINE void storeIndex(const PlainAddresses<T, int32_t>& index, const IntegerOf<Lanes<T>> (&p)[N]) {
@@ -244,33 +241,35 @@ ZELM_INLINE void storeIndex(const PlainAddresses<T, int32_t>& index, const Integ
     for (int i = 0; i < N; ++i)
       lanes[i] = reinterpret_cast<Lanes<float>>(p[i]);
     storeRun<N, float>(bytes, 0, lanes);
-  } else {
-#ifdef __AVX2__
-    ZELM_UNROLL
-    for (int i = 0; i < N; i += 4) {
-      const int from = i + 4 <= N || N < 4 ? i : N - 4;
-      __m128 row[4];
-      ZELM_UNROLL
-      for (int q = 0; q < 4; ++q)
-        row[q] = lowerHalves(p[from + q < N ? from + q : N - 1]);
-      _MM_TRANSPOSE4_PS(row[0], row[1], row[2], row[3]);
-      ZELM_UNROLL
-      for (int w = 0; w < 4; ++w) {
-        char* const to = reinterpret_cast<char*>(index.of[w] + from);
-        if constexpr (N == 3)
-          storeTriple(to, row[w]);
-        else
-          storeLanes(to, row[w]);
-      }
-    }
-#else
+  } else if constexpr (laneCount<T> == 2) {
     ZELM_UNROLL
     for (int w = 0; w < laneCount<T>; ++w) {
       ZELM_UNROLL
       for (int i = 0; i < N; ++i)
         index.of[w][i] = static_cast<int32_t>(p[i][w]);
     }
-#endif
+  } else {
+    // Four places of as many objects as there are parts, from the lower halves of 64-bit integers.
+    ZELM_UNROLL
+    for (int i = 0; i < N; i += 4) {
+      const int from = i + 4 <= N || N < 4 ? i : N - 4;
+      ZELM_UNROLL
+      for (int w = 0; w < laneCount<T>; w += 4) {
+        Lanes<float, 4> row[4];
+        ZELM_UNROLL
+        for (int q = 0; q < 4; ++q)
+          row[q] = lowerHalves<T>(p[from + q < N ? from + q : N - 1], w);
+        transposeChunk(row);
+        ZELM_UNROLL
+        for (int q = 0; q < 4; ++q) {
+          char* const to = reinterpret_cast<char*>(index.of[w + q] + from);
+          if constexpr (N == 3)
+            storeTriple(to, row[q]);
+          else
+            storeLanes(to, row[q]);
+        }
+      }
+    }
   }
 }
 
@@ -376,11 +375,10 @@ inline ZelStatus decomposeFixed(const S& src, const Plain<int32_t>& index, const
 }
 
 // The general loop that a kernel calls.
-template <auto Loop> struct Otherwise {};
 
 template <auto Loop, class S, class D>
-inline ZelStatus decompose(Otherwise<Loop>, const S& src, const Plain<int32_t>& index, const D& dst,
-                           int32_t widthHeight, int32_t count = 1) {
+inline ZelStatus decompose(const S& src, const Plain<int32_t>& index, const D& dst, int32_t widthHeight,
+                           int32_t count = 1) {
   return forSize(
       Sizes<3, 4, 5, 6>{}, widthHeight, [&](auto side) { return decomposeFixed<side>(src, index, dst, count); },
       [&] {

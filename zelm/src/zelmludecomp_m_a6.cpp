@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel                 arguments     strides type   body       general loop
-KERNEL(ownzelmLUDecomp_m_32f, LUDECOMP_M_S, UNIT, float, decompose, Otherwise<ownzelmLUDecomp_m_32f_S_com>)
+KERNEL(ownzelmLUDecomp_m_32f, LUDECOMP_M, S, UNIT, float, decompose<ownzelmLUDecomp_m_32f_S_com>)
 // clang-format on

@@ -4,10 +4,10 @@
 
 // clang-format off
 //     kernel                        arguments     strides type    body
-KERNEL(ownzelmLUDecomp_m_32f_S_com,  LUDECOMP_M_S, UNIT, float,  decomposeLoop, InDst)
-KERNEL(ownzelmLUDecomp_m_64f_S_com,  LUDECOMP_M_S, UNIT, double, decomposeLoop, InDst)
-KERNEL(ownzelmLUDecomp_m_32f_S2_com, LUDECOMP_M_S, ANY,  float,  decomposeLoop, InDst)
-KERNEL(ownzelmLUDecomp_m_64f_S2_com, LUDECOMP_M_S, ANY,  double, decomposeLoop, InDst)
-KERNEL(ownzelmLUDecomp_m_32f_P_com,  LUDECOMP_M_P, ANY,  float,  decomposeLoop, InDst)
-KERNEL(ownzelmLUDecomp_m_64f_P_com,  LUDECOMP_M_P, ANY,  double, decomposeLoop, InDst)
+KERNEL(ownzelmLUDecomp_m_32f_S_com,  LUDECOMP_M, S, UNIT, float,  decomposeLoop)
+KERNEL(ownzelmLUDecomp_m_64f_S_com,  LUDECOMP_M, S, UNIT, double, decomposeLoop)
+KERNEL(ownzelmLUDecomp_m_32f_S2_com, LUDECOMP_M, S, ANY,  float,  decomposeLoop)
+KERNEL(ownzelmLUDecomp_m_64f_S2_com, LUDECOMP_M, S, ANY,  double, decomposeLoop)
+KERNEL(ownzelmLUDecomp_m_32f_P_com,  LUDECOMP_M, P, ANY,  float,  decomposeLoop)
+KERNEL(ownzelmLUDecomp_m_64f_P_com,  LUDECOMP_M, P, ANY,  double, decomposeLoop)
 // clang-format on

@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel                 arguments     strides type    body       general loop
-KERNEL(ownzelmLUDecomp_m_64f, LUDECOMP_M_S, UNIT, double, decompose, Otherwise<ownzelmLUDecomp_m_64f_S_com>)
+KERNEL(ownzelmLUDecomp_m_64f, LUDECOMP_M, S, UNIT, double, decompose<ownzelmLUDecomp_m_64f_S_com>)
 // clang-format on

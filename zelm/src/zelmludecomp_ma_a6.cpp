@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel                    arguments      strides type   body       general loop
-KERNEL(ownzelmLUDecomp_ma_32f,   LUDECOMP_MA_S, UNIT, float, decompose, Otherwise<ownzelmLUDecomp_m_32f_S_com>)
-KERNEL(ownzelmLUDecomp_ma_32f_L, LUDECOMP_MA_L, UNIT, float, decompose, Otherwise<ownzelmLUDecomp_m_32f_S_com>)
+KERNEL(ownzelmLUDecomp_ma_32f,   LUDECOMP_MA, S, UNIT, float, decompose<ownzelmLUDecomp_m_32f_S_com>)
+KERNEL(ownzelmLUDecomp_ma_32f_L, LUDECOMP_MA, L, UNIT, float, decompose<ownzelmLUDecomp_m_32f_S_com>)
 // clang-format on

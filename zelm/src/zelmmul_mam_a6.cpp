@@ -3,12 +3,12 @@
 
 // clang-format off
 //     kernel                arguments  strides  type   body      straight-line sizes
-KERNEL(ownzelmMul_mam_32f,   MUL_MAM_S, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mat_32f,   MUL_MAT_S, UNIT,    float, multiply, SizesWith4By3)
-KERNEL(ownzelmMul_tam_32f,   MUL_TAM_S, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tat_32f,   MUL_TAT_S, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mam_32f_L, MUL_MAM_L, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mat_32f_L, MUL_MAT_L, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tam_32f_L, MUL_TAM_L, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tat_32f_L, MUL_TAT_L, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_mam_32f,   MUL_MAM, S, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mat_32f,   MUL_MAT, S, UNIT,    float, multiply<SizesWith4By3>)
+KERNEL(ownzelmMul_tam_32f,   MUL_TAM, S, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tat_32f,   MUL_TAT, S, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mam_32f_L, MUL_MAM, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mat_32f_L, MUL_MAT, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tam_32f_L, MUL_TAM, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tat_32f_L, MUL_TAT, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
 // clang-format on

@@ -3,12 +3,12 @@
 
 // clang-format off
 //     kernel                 arguments   strides  type    body      straight-line sizes
-KERNEL(ownzelmMul_mama_64f,   MUL_MAMA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mata_64f,   MUL_MATA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tama_64f,   MUL_TAMA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tata_64f,   MUL_TATA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mama_64f_L, MUL_MAMA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mata_64f_L, MUL_MATA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tama_64f_L, MUL_TAMA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tata_64f_L, MUL_TATA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
+KERNEL(ownzelmMul_mama_64f,   MUL_MAMA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mata_64f,   MUL_MATA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tama_64f,   MUL_TAMA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tata_64f,   MUL_TATA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mama_64f_L, MUL_MAMA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mata_64f_L, MUL_MATA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tama_64f_L, MUL_TAMA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tata_64f_L, MUL_TATA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
 // clang-format on

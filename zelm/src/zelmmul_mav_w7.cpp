@@ -4,8 +4,8 @@
 // clang-format off
 // tav takes another sum in the list layout; this is meant.
 //     kernel  arguments strides type  body  sum
-KERNEL(ownzelmMul_mav_64f,   MAV_S, UNIT, double, multiplyVectors, Pairs64)
-KERNEL(ownzelmMul_tav_64f,   TAV_S, UNIT, double, multiplyVectors, Chain)
-KERNEL(ownzelmMul_mav_64f_L, MAV_L, UNIT, double, multiplyVectors, Pairs64)
-KERNEL(ownzelmMul_tav_64f_L, TAV_L, UNIT, double, multiplyVectors, Pairs64)
+KERNEL(ownzelmMul_mav_64f,   MAV, S, UNIT, double, multiplyVectors<Pairs64>)
+KERNEL(ownzelmMul_tav_64f,   TAV, S, UNIT, double, multiplyVectors<Chain>)
+KERNEL(ownzelmMul_mav_64f_L, MAV, L, UNIT, double, multiplyVectors<Pairs64>)
+KERNEL(ownzelmMul_tav_64f_L, TAV, L, UNIT, double, multiplyVectors<Pairs64>)
 // clang-format on

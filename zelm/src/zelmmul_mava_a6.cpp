@@ -3,8 +3,8 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  sum
-KERNEL(ownzelmMul_mava_32f,   MAVA_S, UNIT, float, multiplyVectors, EvenOdd)
-KERNEL(ownzelmMul_tava_32f,   TAVA_S, UNIT, float, multiplyVectors, Pairs32)
-KERNEL(ownzelmMul_mava_32f_L, MAVA_L, UNIT, float, multiplyVectors, EvenOdd)
-KERNEL(ownzelmMul_tava_32f_L, TAVA_L, UNIT, float, multiplyVectors, Pairs32)
+KERNEL(ownzelmMul_mava_32f,   MAVA, S, UNIT, float, multiplyVectors<EvenOdd>)
+KERNEL(ownzelmMul_tava_32f,   TAVA, S, UNIT, float, multiplyVectors<Pairs32>)
+KERNEL(ownzelmMul_mava_32f_L, MAVA, L, UNIT, float, multiplyVectors<EvenOdd>)
+KERNEL(ownzelmMul_tava_32f_L, TAVA, L, UNIT, float, multiplyVectors<Pairs32>)
 // clang-format on

@@ -41,31 +41,11 @@ template <int W, class V> ZELM_INLINE auto highPart(const V& v) {
     return __builtin_shufflevector(v, v, 4, 5, 6, 7);
 }
 
-#ifdef __AVX2__
-ZELM_INLINE Lanes<float, 4> loadMasked(const char* x, Lanes<float, 4>, int n) {
-  return _mm_maskload_ps(reinterpret_cast<const float*>(x),
-                         _mm_cmpgt_epi32(_mm_set1_epi32(n), _mm_setr_epi32(0, 1, 2, 3)));
-}
-ZELM_INLINE Lanes<float, 8> loadMasked(const char* x, Lanes<float, 8>, int n) {
-  return _mm256_maskload_ps(reinterpret_cast<const float*>(x),
-                            _mm256_cmpgt_epi32(_mm256_set1_epi32(n), _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7)));
-}
-ZELM_INLINE Lanes<double, 4> loadMasked(const char* x, Lanes<double, 4>, int n) {
-  return _mm256_maskload_pd(reinterpret_cast<const double*>(x),
-                            _mm256_cmpgt_epi64(_mm256_set1_epi64x(n), _mm256_setr_epi64x(0, 1, 2, 3)));
-}
-#else
-// Three elements; the only case of 16-byte vectors.
-ZELM_INLINE Lanes<float, 4> loadMasked(const char* x, Lanes<float, 4>, int) {
-  return loadTriple(x);
-}
-#endif
-
 // The first N of W elements, the others of the vector being anything. `all` tells that the elements behind may be read.
 template <class T, int W, int N> ZELM_INLINE Lanes<T, W> loadPart(const char* x, bool all) {
   if constexpr (N < W) {
     if (!all)
-      return loadMasked(x, Lanes<T, W>{}, N);
+      return loadFirst(x, Lanes<T, W>{}, N);
   }
   return loadLanes<T, W>(x);
 }
@@ -121,9 +101,9 @@ template <class T, int N> struct PackedRun {
 // blocks of 16 bytes a row. A result that goes past the caches lies without gaps, in chunks of 16 bytes.
 template <class T, int N, bool turned, bool past = false> struct RowVectors {
   static constexpr bool pastCaches = past;
-  static constexpr int widest = turned ? smaller(4, laneCount<T>) : laneCount<T>;
+  static constexpr int widest = turned ? smaller(4, rowLaneCount<T>) : rowLaneCount<T>;
   static constexpr int W = smaller(widest, N <= 4 ? 4 : 8);
-  static constexpr int copies = N <= W ? laneCount<T> / W : 1;
+  static constexpr int copies = N <= W ? rowLaneCount<T> / W : 1;
   static constexpr int rowsAtOnce = N == 4 ? copies : 1;
   static constexpr int objectsAtOnce = copies / rowsAtOnce;
   static constexpr int perRow = (N + W - 1) / W;
@@ -160,10 +140,10 @@ template <int G, class F> ZELM_INLINE auto sideBySide(const F& f) {
     return joinHalves(f(0), f(1));
 }
 
-#ifdef __AVX2__
-// The same four elements in both halves, by the load itself: from two loads g++ makes a shuffle.
+#if ZELM_ROW_BYTES == 32
+// The same four elements in both halves.
 ZELM_INLINE Lanes<float, 8> loadTwice(const char* x) {
-  return _mm256_broadcast_ps(reinterpret_cast<const __m128*>(x));
+  return loadTwice(x, Lanes<float, 8>{});
 }
 
 // Element c of the first four in its four lanes, element c + further of the second four in theirs.
@@ -288,7 +268,7 @@ template <class T, int N, bool packed, class Cut, bool transposed> struct Spread
   const char* x;
   int64_t stride1;
   ZELM_INLINE auto operator()(int i, int k) const {
-#ifndef __AVX2__
+#if ZELM_ROW_BYTES == 16
     constexpr int Q = chunkElements<T>;
     if constexpr ((packed || N >= Q) && (!transposed || N <= 4)) {
       const int r = transposed ? k : i;
@@ -296,7 +276,7 @@ template <class T, int N, bool packed, class Cut, bool transposed> struct Spread
       // A chunk that would end behind the object, or the row, is moved back.
       const int before = packed ? r * N : 0;
       const int from = smaller(before + c / Q * Q, (packed ? N * N : N) - Q);
-      return spreadLane(loadLanes<T>(x + (packed ? 0 : r * stride1) + from * static_cast<int64_t>(sizeof(T))),
+      return spreadLane(loadRowLanes<T>(x + (packed ? 0 : r * stride1) + from * static_cast<int64_t>(sizeof(T))),
                         before + c - from);
     } else
 #endif
@@ -412,21 +392,19 @@ ZELM_INLINE void multiplyTogether(const Spread& a, const Rows& b, const Group<ch
 
 // Six doubles in vectors of four: the two that a vector leaves over go with those of the next row.
 template <class T, int N, bool turned>
-constexpr bool joinsTails = sizeof(T) == 8 && N == 6 && vectorBytes == 32 && !turned;
-#ifdef __AVX2__
+constexpr bool joinsTails = sizeof(T) == 8 && N == 6 && rowBytes == 32 && !turned;
+#if ZELM_ROW_BYTES == 32
 struct SixRows {
   const char* x;
   int64_t stride1;
-  ZELM_INLINE Lanes<double> head(int k) const { return loadLanes<double>(x + k * stride1); }
+  ZELM_INLINE RowLanes<double> head(int k) const { return loadRowLanes<double>(x + k * stride1); }
   // Twice.
-  ZELM_INLINE Lanes<double> tail(int k) const {
-    return _mm256_broadcast_pd(reinterpret_cast<const __m128d*>(x + k * stride1 + 32));
-  }
+  ZELM_INLINE RowLanes<double> tail(int k) const { return loadTwice(x + k * stride1 + 32, RowLanes<double>{}); }
 };
 
 template <class Cut, class Spread>
 ZELM_INLINE void multiplySixes(const Spread& a, const SixRows& b, char* d, int64_t stride1) {
-  using V = Lanes<double>;
+  using V = RowLanes<double>;
   V head[6];
   V tails[3]; // of rows 2 p and 2 p + 1
   ZELM_UNROLL
@@ -475,7 +453,7 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
   constexpr bool transposed = Transposed12::src1;
   // The sums of some rows of the result run side by side, and a vector of src2 is loaded once for all of them, where
   // its rows overflow the registers, and where that has been measured to be quicker.
-  constexpr bool quickTogether = vectorBytes == 16 && N == 4 && (sizeof(T) == 4 || Single::src1);
+  constexpr bool quickTogether = rowBytes == 16 && N == 4 && (sizeof(T) == 4 || Single::src1);
   constexpr bool together = (Cut::overflows && !Single::src2 && !Transposed12::src2) || quickTogether;
   constexpr int64_t step = Cut::objectsAtOnce;
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
@@ -495,7 +473,7 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
   const auto secondOf = [&](int64_t k) __attribute__((always_inline)) {
     const int64_t stride1 = packed ? row : src2.stride1;
     const auto group = groupOf<Cut>(src2, k, Single::src2 ? 1 : count);
-#ifdef __AVX2__
+#if ZELM_ROW_BYTES == 32
     if constexpr (joinsTails<T, N, Transposed12::src2>)
       return SixRows{group.of[0], stride1};
     else
@@ -512,7 +490,7 @@ ZELM_INLINE void multiplyObjects(const A src1, const B src2, const D dst, int64_
     auto group = groupOf<Cut>(dst, k, count);
     if constexpr (Cut::rowsAtOnce == 2)
       group.of[1] += stride1;
-#ifdef __AVX2__
+#if ZELM_ROW_BYTES == 32
     if constexpr (joinsTails<T, N, Transposed12::src2>)
       multiplySixes<Cut>(a, b, group.of[0], stride1);
     else
@@ -545,11 +523,11 @@ template <int from, class V, int... w> ZELM_INLINE V joinAt(const V& a, const V&
 // The triples at x, x + 9 elements, ... side by side: element i of triple o is element 3 * o + i, of which lane 0 has
 // `first`. Whole vectors are loaded around the triples; they stay between x and the end of W packed objects, whichever
 // of their rows x is.
-template <class T, int first, int o = first / 3> ZELM_INLINE Lanes<T> loadStoredRows(const char* x) {
-  constexpr int W = laneCount<T>;
+template <class T, int first, int o = first / 3> ZELM_INLINE RowLanes<T> loadStoredRows(const char* x) {
+  constexpr int W = rowLaneCount<T>;
   constexpr int last = (first + W - 1) / 3;
   constexpr int begin = last - (o - first / 3);
-  const auto lanes = loadLanes<T>(x + (6 * begin + first) * static_cast<int>(sizeof(T)));
+  const auto lanes = loadRowLanes<T>(x + (6 * begin + first) * static_cast<int>(sizeof(T)));
   if constexpr (begin == first / 3)
     return lanes;
   else
@@ -558,25 +536,25 @@ template <class T, int first, int o = first / 3> ZELM_INLINE Lanes<T> loadStored
 
 // W packed objects of side 3 and one src2 for all: the rows of the result in lanes.
 template <class T, class Transposed12, bool past, int v = 0>
-ZELM_INLINE void multiplyTurned(const char* src1, const Tile<Lanes<T>, 3, 3>& second, char* dst) {
-  constexpr int W = laneCount<T>;
+ZELM_INLINE void multiplyTurned(const char* src1, const Tile<RowLanes<T>, 3, 3>& second, char* dst) {
+  constexpr int W = rowLaneCount<T>;
   constexpr auto E = static_cast<int>(sizeof(T));
-  Tile<Lanes<T>, 1, 3> first;
+  Tile<RowLanes<T>, 1, 3> first;
   if constexpr (Transposed12::src1) {
     ZELM_UNROLL
     for (int k = 0; k < 3; ++k)
       first(0, k) = loadStoredRows<T, v * W>(src1 + 3 * k * E);
   } else {
-    first = loadTurnedTriples<T>(src1 + v * 3 * vectorBytes);
+    first = loadTurnedTriples<T>(src1 + v * 3 * rowBytes);
   }
-  Tile<Lanes<T>, 1, 3> result;
+  Tile<RowLanes<T>, 1, 3> result;
   sumProducts<3>(
       result.element, [&](int k) __attribute__((always_inline)) { return first(0, k); },
       [&](int k, int j) __attribute__((always_inline)) { return second(k, j); });
   if constexpr (Transposed12::src1)
-    storeTriples<past>(dst + v * 3 * vectorBytes, result);
+    storeTriples<past>(dst + v * 3 * rowBytes, result);
   else
-    storeTurnedTriples<T, past>(dst + v * 3 * vectorBytes, result);
+    storeTurnedTriples<T, past>(dst + v * 3 * rowBytes, result);
   if constexpr (v < 2)
     multiplyTurned<T, Transposed12, past, v + 1>(src1, second, dst);
 }
@@ -585,32 +563,32 @@ ZELM_INLINE void multiplyTurned(const char* src1, const Tile<Lanes<T>, 3, 3>& se
 // lanes.
 template <class T, bool transposed, bool past>
 ZELM_INLINE void multiplySpread(const char* src1, const char* src2, char* dst, int64_t rows) {
-  constexpr int W = laneCount<T>;
+  constexpr int W = rowLaneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   const TripleFactors<T> second(
       [=](int j, int k) { return loadElement<T>(src2 + (transposed ? 3 * j + k : 3 * k + j) * E); });
   for (int64_t r = 0; r < rows; r += W) {
     const int64_t at = (r + W <= rows ? r : rows - W) * 3 * E;
     putLanes<past>(dst + at, second.template multiply<0>(src1 + at));
-    putLanes<past>(dst + at + vectorBytes, second.template multiply<1>(src1 + at));
-    putLanes<past>(dst + at + 2 * vectorBytes, second.template multiply<2>(src1 + at));
+    putLanes<past>(dst + at + rowBytes, second.template multiply<1>(src1 + at));
+    putLanes<past>(dst + at + 2 * rowBytes, second.template multiply<2>(src1 + at));
   }
 }
 
 // At least as many objects as a vector has lanes; the last ones are taken once more to end with the batch.
 template <class T, class Transposed12, bool past = false>
 ZELM_NOINLINE void multiplyTriples(const char* src1, const char* src2, char* dst, int64_t count) {
-  constexpr int64_t W = laneCount<T>;
+  constexpr int64_t W = rowLaneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   if constexpr (W >= 4 && !Transposed12::src1) {
     multiplySpread<T, Transposed12::src2, past>(src1, src2, dst, 3 * count);
   } else {
-    Tile<Lanes<T>, 3, 3> second;
+    Tile<RowLanes<T>, 3, 3> second;
     ZELM_UNROLL
     for (int k = 0; k < 3; ++k)
       ZELM_UNROLL
     for (int j = 0; j < 3; ++j)
-      second(k, j) = splat<Lanes<T>>(loadElement<T>(src2 + (Transposed12::src2 ? 3 * j + k : 3 * k + j) * E));
+      second(k, j) = splat<RowLanes<T>>(loadElement<T>(src2 + (Transposed12::src2 ? 3 * j + k : 3 * k + j) * E));
     for (int64_t k = 0; k < count; k += W) {
       const int64_t at = (k + W <= count ? k : count - W) * 9 * E;
       multiplyTurned<T, Transposed12, past>(src1 + at, second, dst + at);
@@ -618,31 +596,31 @@ ZELM_NOINLINE void multiplyTriples(const char* src1, const char* src2, char* dst
   }
 }
 
-#ifndef __AVX2__
+#if ZELM_ROW_BYTES == 16
 // Transposed objects in vectors of four floats: the nine elements of the result as they lie, four, four and one.
 template <bool transposedSrc2>
 ZELM_NOINLINE void multiplyNines(const char* src1, const char* src2, char* dst, int64_t count) {
   constexpr int E = sizeof(float);
-  Lanes<float> secondOf0123[3];
-  Lanes<float> secondOf4567[3];
+  RowLanes<float> secondOf0123[3];
+  RowLanes<float> secondOf4567[3];
   float secondOf8[3];
   ZELM_UNROLL
   for (int k = 0; k < 3; ++k) {
     const auto b = [&](int j) { return loadElement<float>(src2 + (transposedSrc2 ? 3 * j + k : 3 * k + j) * E); };
-    secondOf0123[k] = Lanes<float>{b(0), b(1), b(2), b(0)};
-    secondOf4567[k] = Lanes<float>{b(1), b(2), b(0), b(1)};
+    secondOf0123[k] = RowLanes<float>{b(0), b(1), b(2), b(0)};
+    secondOf4567[k] = RowLanes<float>{b(1), b(2), b(0), b(1)};
     secondOf8[k] = b(2);
   }
   for (int64_t object = 0; object < count; ++object) {
     const char* x = src1 + object * 9 * E;
     char* d = dst + object * 9 * E;
-    Lanes<float> firstOf0123[3];
-    Lanes<float> firstOf4567[3];
+    RowLanes<float> firstOf0123[3];
+    RowLanes<float> firstOf4567[3];
     float firstOf8[3];
     ZELM_UNROLL
     for (int k = 0; k < 3; ++k) {
       // Stored row k, of the last one with the element before it.
-      const auto row = loadLanes<float>(x + (k < 2 ? 3 * k : 5) * E);
+      const auto row = loadRowLanes<float>(x + (k < 2 ? 3 * k : 5) * E);
       firstOf0123[k] =
           k < 2 ? __builtin_shufflevector(row, row, 0, 0, 0, 1) : __builtin_shufflevector(row, row, 1, 1, 1, 2);
       firstOf4567[k] =
@@ -666,8 +644,8 @@ template <int N, class Single> constexpr bool byTriples = N == 3 && Single::src2
 template <class T, int N, class Transposed12, class Single>
 ZELM_NOINLINE void multiplyRun(const char* src1, const char* src2, char* dst, int64_t count) {
   if constexpr (byTriples<N, Single>) {
-    if (count >= laneCount<T>) {
-#ifndef __AVX2__
+    if (count >= rowLaneCount<T>) {
+#if ZELM_ROW_BYTES == 16
       if constexpr (sizeof(T) == 4 && Transposed12::src1) {
         multiplyNines<Transposed12::src2>(src1, src2, dst, count);
         return;
@@ -702,10 +680,10 @@ ZELM_NOINLINE void multiplyStreaming(const char* src1, const char* src2, char* d
     multiplyRun<T, N, Transposed12, Single>(first(from), second(from), dst + from * object, end - from);
   };
   if constexpr (triples || row % 16 == 0) {
-    constexpr int64_t boundary = triples ? vectorBytes : 16;
+    constexpr int64_t boundary = triples ? rowBytes : 16;
     const int64_t begin = objectsToBoundary<object, boundary>(dst);
     if (begin >= 0) {
-      const int64_t end = triples ? count - (count - begin) % laneCount<T> : count;
+      const int64_t end = triples ? count - (count - begin) % rowLaneCount<T> : count;
       multiplyCached(0, begin);
       if constexpr (triples)
         multiplyTriples<T, Transposed12, true>(first(begin), second(begin), dst + begin * object, end - begin);
@@ -713,7 +691,7 @@ ZELM_NOINLINE void multiplyStreaming(const char* src1, const char* src2, char* d
         multiplyObjects<T, N, Transposed12, Single, true, true>(PackedRun<const T, N>{first(begin)},
                                                                 PackedRun<const T, N>{second(begin)},
                                                                 PackedRun<T, N>{dst + begin * object}, end - begin);
-      _mm_sfence();
+      endStreams();
       multiplyCached(end, count);
       return;
     }
@@ -723,7 +701,7 @@ ZELM_NOINLINE void multiplyStreaming(const char* src1, const char* src2, char* d
 
 template <class T, int N, class Transposed12, class Single>
 ZELM_NOINLINE void multiplyUnit(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
-                                int64_t count) {
+                                int64_t count, int64_t whole) {
   constexpr int64_t row = N * static_cast<int64_t>(sizeof(T));
   const auto isRun = [count](const auto& x, bool single) {
     return single || (x.list == nullptr && (x.stride0 == N * row || count == 1));
@@ -732,7 +710,7 @@ ZELM_NOINLINE void multiplyUnit(const Objects<const T>& src1, const Objects<cons
     multiplyObjects<T, N, Transposed12, Single, false>(src1, src2, dst, count);
   else if (!isRun(src1, Single::src1) || !isRun(src2, Single::src2) || !isRun(dst, false))
     multiplyObjects<T, N, Transposed12, Single, true>(src1, src2, dst, count);
-  else if (isStreamed<T>(dst.origin, N * N * count))
+  else if (isStreamed<T>(dst.origin, N * N * count, N * N * whole))
     multiplyStreaming<T, N, Transposed12, Single>(src1.origin, src2.origin, dst.origin, count);
   else
     multiplyRun<T, N, Transposed12, Single>(src1.origin, src2.origin, dst.origin, count);
@@ -774,11 +752,11 @@ template <class C, int N> struct ElementAddresses {
 };
 
 // Vectors of neighbours, or one element in all lanes.
-template <class T, bool single> ZELM_INLINE Lanes<T> loadNeighbours(const char* x, int64_t offset) {
+template <class T, bool single> ZELM_INLINE RowLanes<T> loadNeighbours(const char* x, int64_t offset) {
   if constexpr (single)
-    return splat<Lanes<T>>(loadElement<T>(x));
+    return splat<RowLanes<T>>(loadElement<T>(x));
   else
-    return loadLanes<T>(x + offset);
+    return loadRowLanes<T>(x + offset);
 }
 
 // Positions at the same distance from each other, one after the other: a step costs an addition, where a list costs a
@@ -817,16 +795,16 @@ ZELM_INLINE void multiplyWalking(const Walk<const char>& src1, const Walk<const 
   const auto rowOfFirst = [&](int r) { return src1.from((i + r) * N, Single::src1 ? 0 : offset); };
   Walk<const char> first[2] = {rowOfFirst(0), rowOfFirst(R - 1)};
   Walk<const char> second = src2.from(0, Single::src2 ? 0 : offset);
-  Lanes<T> sum[R][N];
+  RowLanes<T> sum[R][N];
   ZELM_UNROLL
   for (int k = 0; k < N; ++k) {
-    Lanes<T> factor[R];
+    RowLanes<T> factor[R];
     ZELM_UNROLL
     for (int r = 0; r < R; ++r)
       factor[r] = loadNeighbours<T, Single::src1>(first[r].next(), 0);
     ZELM_UNROLL
     for (int j = 0; j < N; ++j) {
-      const Lanes<T> b = loadNeighbours<T, Single::src2>(second.next(), 0);
+      const RowLanes<T> b = loadNeighbours<T, Single::src2>(second.next(), 0);
       ZELM_UNROLL
       for (int r = 0; r < R; ++r) {
         sum[r][j] = k == 0 ? factor[r] * b : sum[r][j] + factor[r] * b;
@@ -849,7 +827,7 @@ template <class T, int N, class Single>
 ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, const PointerMatrixView<const T>& src2,
                                       const PointerMatrixView<T>& dst, int64_t count) {
   constexpr auto E = static_cast<int64_t>(sizeof(T));
-  constexpr int64_t W = laneCount<T>;
+  constexpr int64_t W = rowLaneCount<T>;
   const ElementAddresses<const char, N> first(src1);
   const ElementAddresses<const char, N> second(src2);
   const ElementAddresses<char, N> result(dst);
@@ -865,13 +843,13 @@ ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, co
   }
   for (int64_t k = 0; k < count; k += W) {
     const int64_t offset = (k + W <= count ? k : count - W) * E;
-    Tile<Lanes<T>, N, N> b;
+    Tile<RowLanes<T>, N, N> b;
     ZELM_UNROLL
     for (int e = 0; e < N * N; ++e)
       b.element[e] = loadNeighbours<T, Single::src2>(second.at[e], offset);
     ZELM_UNROLL
     for (int i = 0; i < N; ++i) {
-      Lanes<T> sum[N];
+      RowLanes<T> sum[N];
       sumProducts<N>(
           sum,
           [&](int l)
@@ -1004,7 +982,7 @@ ZELM_INLINE void multiplyWide(const A& a, const B& b, const D& d, int64_t rows, 
 template <class A, class B, class D>
 ZELM_NOINLINE void multiplyGeneral(const A& a, const B& b, const D& d, int64_t rows, int64_t columns, int64_t n) {
   constexpr bool vectors = D::unitRows && (B::unitRows || B::unitColumns);
-  multiplyWide<vectors ? laneCount<typename D::Element> : 1>(a, b, d, rows, columns, n);
+  multiplyWide<vectors ? rowLaneCount<typename D::Element> : 1>(a, b, d, rows, columns, n);
 }
 
 // Pointer layout with stride0 of one element: R rows of the result from row i on, V columns from column j on, of the
@@ -1013,15 +991,15 @@ template <int R, int V, class Single, class T>
 ZELM_INLINE void multiplyNeighbourElements(const PointerMatrixView<const T>& a, const PointerMatrixView<const T>& b,
                                            const PointerMatrixView<T>& d, int64_t i, int64_t j, int64_t n,
                                            int64_t offset) {
-  Lanes<T> sum[R * V] = {};
+  RowLanes<T> sum[R * V] = {};
   for (int64_t k = 0; k < n; ++k) {
-    Lanes<T> second[V];
+    RowLanes<T> second[V];
     ZELM_UNROLL
     for (int v = 0; v < V; ++v)
       second[v] = loadNeighbours<T, Single::src2>(b.address(k, j + v), offset);
     ZELM_UNROLL
     for (int r = 0; r < R; ++r) {
-      const Lanes<T> first = loadNeighbours<T, Single::src1>(a.address(i + r, k), offset);
+      const RowLanes<T> first = loadNeighbours<T, Single::src1>(a.address(i + r, k), offset);
       ZELM_UNROLL
       for (int v = 0; v < V; ++v)
         sum[r * V + v] = sum[r * V + v] + first * second[v];
@@ -1056,7 +1034,7 @@ ZELM_NOINLINE void multiplyNeighboursGeneral(const PointerMatrixView<const T>& a
                                              const PointerMatrixView<T>& d, int64_t rows, int64_t columns, int64_t n,
                                              int64_t count) {
   constexpr auto E = static_cast<int64_t>(sizeof(T));
-  constexpr int64_t W = laneCount<T>;
+  constexpr int64_t W = rowLaneCount<T>;
   for (int64_t k = 0; k < count; k += W) {
     const int64_t offset = (k + W <= count ? k : count - W) * E;
     int64_t i = 0;
@@ -1087,7 +1065,7 @@ template <class A, class B, class D>
 ZELM_INLINE bool liesSideBySide(const A& src1, const B& src2, const D& dst, int32_t count) {
   using T = typename D::Element;
   const auto neighbours = [](const auto& x) { return !x.isArray || x.objectStride() == int64_t{sizeof(T)}; };
-  return count >= laneCount<T> && neighbours(src1) && neighbours(src2) && neighbours(dst);
+  return count >= rowLaneCount<T> && neighbours(src1) && neighbours(src2) && neighbours(dst);
 }
 
 template <class A, class B, class D> using SingleSources = Which<D::isArray && !A::isArray, D::isArray && !B::isArray>;
@@ -1114,13 +1092,13 @@ ZELM_INLINE ZelStatus multiplyAny(const A& src1, int32_t src1Width, int32_t src1
 
 // All objects have the side N.
 template <int N, class A, class B, class D>
-ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, int32_t count) {
+ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, Count count) {
   using T = typename D::Element;
   using View = decltype(dst.object(0, N));
   using Single = SingleSources<A, B, D>;
   if constexpr (View::unitRows) {
     multiplyUnit<T, N, Which<isTransposed<A>, isTransposed<B>>, Single>(
-        objectsOf(asStored(src1)), objectsOf(asStored(src2)), objectsOf(dst), count);
+        objectsOf(asStored(src1)), objectsOf(asStored(src2)), objectsOf(dst), count, wholeOf(count));
   } else {
     if constexpr (D::isArray && isNeighbour<View>) {
       if (liesSideBySide(src1, src2, dst, count)) {
@@ -1138,7 +1116,7 @@ ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, 
 template <int... N, class A, class B, class D>
 ZELM_INLINE ZelStatus multiplySide(Sizes<N...> sizes, int32_t side, const A& src1, int32_t src1Width,
                                    int32_t src1Height, const B& src2, int32_t src2Width, int32_t src2Height,
-                                   const D& dst, int32_t count) {
+                                   const D& dst, Count count) {
   return forSize(
       sizes, side, [&](auto n) { return multiplyFixed<n>(src1, src2, dst, count); },
       [&] { return multiplyAny(src1, src1Width, src1Height, src2, src2Width, src2Height, dst, count); });
@@ -1149,9 +1127,11 @@ constexpr int32_t commonSide(int32_t width1, int32_t height1, int32_t width2, in
   return width1 == height1 && width1 == width2 && width1 == height2 ? width1 : 0;
 }
 
-template <int... N, class A, class B, class D>
-ZELM_INLINE ZelStatus multiply(Sizes<N...> sizes, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
-                               int32_t src2Width, int32_t src2Height, const D& dst, int32_t count = 1) {
+// The rows of the kernels name how they test the sizes: as a list of sides that all four must equal, or one of two
+// below.
+template <class A, class B, class D, int... N>
+ZELM_INLINE ZelStatus multiplyBy(Sizes<N...> sizes, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
+                                 int32_t src2Width, int32_t src2Height, const D& dst, Count count) {
   return multiplySide(sizes, commonSide(src1Width, src1Height, src2Width, src2Height), src1, src1Width, src1Height,
                       src2, src2Width, src2Height, dst, count);
 }
@@ -1161,8 +1141,8 @@ ZELM_INLINE ZelStatus multiply(Sizes<N...> sizes, const A& src1, int32_t src1Wid
 // one.)
 struct SizesByOr {};
 template <class A, class B, class D>
-ZELM_INLINE ZelStatus multiply(SizesByOr, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
-                               int32_t src2Width, int32_t src2Height, const D& dst, int32_t count = 1) {
+ZELM_INLINE ZelStatus multiplyBy(SizesByOr, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
+                                 int32_t src2Width, int32_t src2Height, const D& dst, Count count) {
   const int32_t side = (src1Width | src1Height | src2Width | src2Height) == 3
                            ? 3
                            : commonSide(src1Width, src1Height, src2Width, src2Height);
@@ -1173,11 +1153,17 @@ ZELM_INLINE ZelStatus multiply(SizesByOr, const A& src1, int32_t src1Width, int3
 // row of src2 and writes a fourth column of dst. All sizes 4 are left to the general path.
 struct SizesWith4By3 {};
 template <class A, class B, class D>
-ZELM_INLINE ZelStatus multiply(SizesWith4By3, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
-                               int32_t src2Width, int32_t src2Height, const D& dst, int32_t count) {
+ZELM_INLINE ZelStatus multiplyBy(SizesWith4By3, const A& src1, int32_t src1Width, int32_t src1Height, const B& src2,
+                                 int32_t src2Width, int32_t src2Height, const D& dst, Count count) {
   if (src1Width == 4 && src1Height == 4 && src2Height == 3)
     return multiplyFixed<4>(src1, src2, dst, count);
-  return multiply(Sizes<3, 5, 6>{}, src1, src1Width, src1Height, src2, src2Width, src2Height, dst, count);
+  return multiplyBy(Sizes<3, 5, 6>{}, src1, src1Width, src1Height, src2, src2Width, src2Height, dst, count);
+}
+
+template <class SizeTest, class A, class B, class D>
+ZELM_INLINE ZelStatus multiply(const A& src1, int32_t src1Width, int32_t src1Height, const B& src2, int32_t src2Width,
+                               int32_t src2Height, const D& dst, int32_t count = 1) {
+  return multiplyBy(SizeTest{}, src1, src1Width, src1Height, src2, src2Width, src2Height, dst, count);
 }
 
 } // namespace zelm

@@ -3,12 +3,12 @@
 
 // clang-format off
 //     kernel                arguments  strides  type   body      straight-line sizes
-KERNEL(ownzelmMul_mma_32f,   MUL_MMA_S, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mta_32f,   MUL_MTA_S, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tma_32f,   MUL_TMA_S, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tta_32f,   MUL_TTA_S, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mma_32f_L, MUL_MMA_L, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mta_32f_L, MUL_MTA_L, UNIT,    float, multiply, Sizes<>)
-KERNEL(ownzelmMul_tma_32f_L, MUL_TMA_L, UNIT,    float, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tta_32f_L, MUL_TTA_L, UNIT,    float, multiply, Sizes<>)
+KERNEL(ownzelmMul_mma_32f,   MUL_MMA, S, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mta_32f,   MUL_MTA, S, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tma_32f,   MUL_TMA, S, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tta_32f,   MUL_TTA, S, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mma_32f_L, MUL_MMA, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mta_32f_L, MUL_MTA, L, UNIT,    float, multiply<Sizes<>>)
+KERNEL(ownzelmMul_tma_32f_L, MUL_TMA, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tta_32f_L, MUL_TTA, L, UNIT,    float, multiply<Sizes<>>)
 // clang-format on

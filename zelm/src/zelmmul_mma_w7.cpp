@@ -3,12 +3,12 @@
 
 // clang-format off
 //     kernel                arguments  strides  type    body      straight-line sizes
-KERNEL(ownzelmMul_mma_64f,   MUL_MMA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mta_64f,   MUL_MTA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tma_64f,   MUL_TMA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tta_64f,   MUL_TTA_S, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mma_64f_L, MUL_MMA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_mta_64f_L, MUL_MTA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tma_64f_L, MUL_TMA_L, UNIT,    double, multiply, Sizes<3, 4, 5, 6>)
-KERNEL(ownzelmMul_tta_64f_L, MUL_TTA_L, UNIT,    double, multiply, Sizes<>)
+KERNEL(ownzelmMul_mma_64f,   MUL_MMA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mta_64f,   MUL_MTA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tma_64f,   MUL_TMA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tta_64f,   MUL_TTA, S, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mma_64f_L, MUL_MMA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_mta_64f_L, MUL_MTA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tma_64f_L, MUL_TMA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmMul_tta_64f_L, MUL_TTA, L, UNIT,    double, multiply<Sizes<>>)
 // clang-format on

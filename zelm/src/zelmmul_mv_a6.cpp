@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  sum
-KERNEL(ownzelmMul_mv_32f, MV_S, UNIT, float, multiplyVectors, Chain)
-KERNEL(ownzelmMul_tv_32f, TV_S, UNIT, float, multiplyVectors, Chain)
+KERNEL(ownzelmMul_mv_32f, MV, S, UNIT, float, multiplyVectors<Chain>)
+KERNEL(ownzelmMul_tv_32f, TV, S, UNIT, float, multiplyVectors<Chain>)
 // clang-format on

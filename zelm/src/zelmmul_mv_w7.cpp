@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  sum
-KERNEL(ownzelmMul_mv_64f, MV_S, UNIT, double, multiplyVectors, Pairs64)
-KERNEL(ownzelmMul_tv_64f, TV_S, UNIT, double, multiplyVectors, Chain)
+KERNEL(ownzelmMul_mv_64f, MV, S, UNIT, double, multiplyVectors<Pairs64>)
+KERNEL(ownzelmMul_tv_64f, TV, S, UNIT, double, multiplyVectors<Chain>)
 // clang-format on

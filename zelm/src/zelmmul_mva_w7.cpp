@@ -4,8 +4,8 @@
 // clang-format off
 // A list kernel with ZeroChain has no straight-line sizes, unlike its sister; this is meant.
 //     kernel  arguments strides type  body  sum
-KERNEL(ownzelmMul_mva_64f,   MVA_S, UNIT, double, multiplyVectors, Pairs64)
-KERNEL(ownzelmMul_tva_64f,   TVA_S, UNIT, double, multiplyVectors, Chain)
-KERNEL(ownzelmMul_mva_64f_L, MVA_L, UNIT, double, multiplyVectors, Pairs64)
-KERNEL(ownzelmMul_tva_64f_L, TVA_L, UNIT, double, multiplyVectors, ZeroChain)
+KERNEL(ownzelmMul_mva_64f,   MVA, S, UNIT, double, multiplyVectors<Pairs64>)
+KERNEL(ownzelmMul_tva_64f,   TVA, S, UNIT, double, multiplyVectors<Chain>)
+KERNEL(ownzelmMul_mva_64f_L, MVA, L, UNIT, double, multiplyVectors<Pairs64>)
+KERNEL(ownzelmMul_tva_64f_L, TVA, L, UNIT, double, multiplyVectors<ZeroChain>)
 // clang-format on

@@ -6,56 +6,23 @@
 #include "zelmframe.h"
 
 // clang-format off
-#define PRODUCT(V, T, A, B, D)        V##_##A(src1, const T), V##_SIZE(src1Width), V##_SIZE(src1Height), V##_##B(src2, const T), V##_SIZE(src2Width), V##_SIZE(src2Height), V##_##D(dst, T)
-#define PRODUCT_BATCH(V, T, A, B, D)  PRODUCT(V, T, A, B, D), V##_COUNT
-
-#define MUL_MM_S(V, T)    PRODUCT(V, T, M_S, M_S, M_S)
-#define MUL_MT_S(V, T)    PRODUCT(V, T, M_S, T_S, M_S)
-#define MUL_TM_S(V, T)    PRODUCT(V, T, T_S, M_S, M_S)
-#define MUL_TT_S(V, T)    PRODUCT(V, T, T_S, T_S, M_S)
-#define MUL_MM_P(V, T)    PRODUCT(V, T, M_P, M_P, M_P)
-#define MUL_MT_P(V, T)    PRODUCT(V, T, M_P, T_P, M_P)
-#define MUL_TM_P(V, T)    PRODUCT(V, T, T_P, M_P, M_P)
-#define MUL_TT_P(V, T)    PRODUCT(V, T, T_P, T_P, M_P)
-
-#define MUL_MAM_S(V, T)   PRODUCT_BATCH(V, T, MA_S, M_S, MA_S)
-#define MUL_MAT_S(V, T)   PRODUCT_BATCH(V, T, MA_S, T_S, MA_S)
-#define MUL_TAM_S(V, T)   PRODUCT_BATCH(V, T, TA_S, M_S, MA_S)
-#define MUL_TAT_S(V, T)   PRODUCT_BATCH(V, T, TA_S, T_S, MA_S)
-#define MUL_MMA_S(V, T)   PRODUCT_BATCH(V, T, M_S, MA_S, MA_S)
-#define MUL_MTA_S(V, T)   PRODUCT_BATCH(V, T, M_S, TA_S, MA_S)
-#define MUL_TMA_S(V, T)   PRODUCT_BATCH(V, T, T_S, MA_S, MA_S)
-#define MUL_TTA_S(V, T)   PRODUCT_BATCH(V, T, T_S, TA_S, MA_S)
-#define MUL_MAMA_S(V, T)  PRODUCT_BATCH(V, T, MA_S, MA_S, MA_S)
-#define MUL_MATA_S(V, T)  PRODUCT_BATCH(V, T, MA_S, TA_S, MA_S)
-#define MUL_TAMA_S(V, T)  PRODUCT_BATCH(V, T, TA_S, MA_S, MA_S)
-#define MUL_TATA_S(V, T)  PRODUCT_BATCH(V, T, TA_S, TA_S, MA_S)
-
-#define MUL_MAM_L(V, T)   PRODUCT_BATCH(V, T, MA_L, M_S, MA_L)
-#define MUL_MAT_L(V, T)   PRODUCT_BATCH(V, T, MA_L, T_S, MA_L)
-#define MUL_TAM_L(V, T)   PRODUCT_BATCH(V, T, TA_L, M_S, MA_L)
-#define MUL_TAT_L(V, T)   PRODUCT_BATCH(V, T, TA_L, T_S, MA_L)
-#define MUL_MMA_L(V, T)   PRODUCT_BATCH(V, T, M_S, MA_L, MA_L)
-#define MUL_MTA_L(V, T)   PRODUCT_BATCH(V, T, M_S, TA_L, MA_L)
-#define MUL_TMA_L(V, T)   PRODUCT_BATCH(V, T, T_S, MA_L, MA_L)
-#define MUL_TTA_L(V, T)   PRODUCT_BATCH(V, T, T_S, TA_L, MA_L)
-#define MUL_MAMA_L(V, T)  PRODUCT_BATCH(V, T, MA_L, MA_L, MA_L)
-#define MUL_MATA_L(V, T)  PRODUCT_BATCH(V, T, MA_L, TA_L, MA_L)
-#define MUL_TAMA_L(V, T)  PRODUCT_BATCH(V, T, TA_L, MA_L, MA_L)
-#define MUL_TATA_L(V, T)  PRODUCT_BATCH(V, T, TA_L, TA_L, MA_L)
-
-#define MUL_MAM_P(V, T)   PRODUCT_BATCH(V, T, MA_P, M_P, MA_P)
-#define MUL_MAT_P(V, T)   PRODUCT_BATCH(V, T, MA_P, T_P, MA_P)
-#define MUL_TAM_P(V, T)   PRODUCT_BATCH(V, T, TA_P, M_P, MA_P)
-#define MUL_TAT_P(V, T)   PRODUCT_BATCH(V, T, TA_P, T_P, MA_P)
-#define MUL_MMA_P(V, T)   PRODUCT_BATCH(V, T, M_P, MA_P, MA_P)
-#define MUL_MTA_P(V, T)   PRODUCT_BATCH(V, T, M_P, TA_P, MA_P)
-#define MUL_TMA_P(V, T)   PRODUCT_BATCH(V, T, T_P, MA_P, MA_P)
-#define MUL_TTA_P(V, T)   PRODUCT_BATCH(V, T, T_P, TA_P, MA_P)
-#define MUL_MAMA_P(V, T)  PRODUCT_BATCH(V, T, MA_P, MA_P, MA_P)
-#define MUL_MATA_P(V, T)  PRODUCT_BATCH(V, T, MA_P, TA_P, MA_P)
-#define MUL_TAMA_P(V, T)  PRODUCT_BATCH(V, T, TA_P, MA_P, MA_P)
-#define MUL_TATA_P(V, T)  PRODUCT_BATCH(V, T, TA_P, TA_P, MA_P)
+#define PRODUCT(W, Y, E, A, B, D)  ZELM_##A##_##Y(W, src1, const E), ZELM_SIZE(W, src1Width), ZELM_SIZE(W, src1Height), ZELM_##B##_##Y(W, src2, const E), ZELM_SIZE(W, src2Width), ZELM_SIZE(W, src2Height), ZELM_##D##_##Y(W, dst, E)
+#define MUL_MM(W, Y, E)   PRODUCT(W, Y, E, M, M, M)
+#define MUL_MT(W, Y, E)   PRODUCT(W, Y, E, M, T, M)
+#define MUL_TM(W, Y, E)   PRODUCT(W, Y, E, T, M, M)
+#define MUL_TT(W, Y, E)   PRODUCT(W, Y, E, T, T, M)
+#define MUL_MAM(W, Y, E)    PRODUCT(W, Y, E, MA, M, MA), ZELM_COUNT(W)
+#define MUL_MAT(W, Y, E)    PRODUCT(W, Y, E, MA, T, MA), ZELM_COUNT(W)
+#define MUL_TAM(W, Y, E)    PRODUCT(W, Y, E, TA, M, MA), ZELM_COUNT(W)
+#define MUL_TAT(W, Y, E)    PRODUCT(W, Y, E, TA, T, MA), ZELM_COUNT(W)
+#define MUL_MMA(W, Y, E)    PRODUCT(W, Y, E, M, MA, MA), ZELM_COUNT(W)
+#define MUL_MTA(W, Y, E)    PRODUCT(W, Y, E, M, TA, MA), ZELM_COUNT(W)
+#define MUL_TMA(W, Y, E)    PRODUCT(W, Y, E, T, MA, MA), ZELM_COUNT(W)
+#define MUL_TTA(W, Y, E)    PRODUCT(W, Y, E, T, TA, MA), ZELM_COUNT(W)
+#define MUL_MAMA(W, Y, E)   PRODUCT(W, Y, E, MA, MA, MA), ZELM_COUNT(W)
+#define MUL_MATA(W, Y, E)   PRODUCT(W, Y, E, MA, TA, MA), ZELM_COUNT(W)
+#define MUL_TAMA(W, Y, E)   PRODUCT(W, Y, E, TA, MA, MA), ZELM_COUNT(W)
+#define MUL_TATA(W, Y, E)   PRODUCT(W, Y, E, TA, TA, MA), ZELM_COUNT(W)
 // clang-format on
 
 namespace zelm {
@@ -83,7 +50,8 @@ using N_C_Z_M_S_H_Mul = N_C_Z_M_S_H<Factors>;
 // The elements that a call touches: arrays count times, single operands once.
 struct Touched {
   template <class A, class B, class D>
-  static Wrapping of(const A&, Size width1, Size height1, const B&, Size width2, Size height2, const D&, Count count) {
+  Wrapping operator()(const A&, Size width1, Size height1, const B&, Size width2, Size height2, const D&,
+                      Count count) const {
     const Wrapping first = Wrapping(width1) * height1;
     const Wrapping second = Wrapping(width2) * height2;
     const Wrapping result = Wrapping(rowsOf<A>(width1, height1)) * Wrapping(columnsOf<B>(width2, height2));
@@ -95,5 +63,27 @@ struct Touched {
       return (first + second + result) * count;
   }
 };
+
+// A product and a sum for each term.
+struct Terms {
+  static constexpr double scattered = 4;
+  template <class A, class B, class D>
+  double operator()(const A&, Size width1, Size height1, const B&, Size width2, Size height2, const D&,
+                    Count count) const {
+    return 2.0 * width1 * height1 * columnsOf<B>(width2, height2) * count;
+  }
+};
+ZELM_WORK(MUL_MAM) = Terms{};
+ZELM_WORK(MUL_MAT) = Terms{};
+ZELM_WORK(MUL_TAM) = Terms{};
+ZELM_WORK(MUL_TAT) = Terms{};
+ZELM_WORK(MUL_MMA) = Terms{};
+ZELM_WORK(MUL_MTA) = Terms{};
+ZELM_WORK(MUL_TMA) = Terms{};
+ZELM_WORK(MUL_TTA) = Terms{};
+ZELM_WORK(MUL_MAMA) = Terms{};
+ZELM_WORK(MUL_MATA) = Terms{};
+ZELM_WORK(MUL_TAMA) = Terms{};
+ZELM_WORK(MUL_TATA) = Terms{};
 
 } // namespace zelm

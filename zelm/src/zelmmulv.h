@@ -1,125 +1,16 @@
 // Matrix by vector, and with a vector added: dst = src1 * src2 [+ src3].
 //
 // A result element is a sum of products, and the brackets of the sum decide its last bits. They differ by form, type,
-// layout, stride path and size; the sums below are all there are, and the row of a kernel names the one it takes.
-// Nothing is fused. Vectors hold objects, elements of one result or, where the sum pairs them, its terms, a lane each.
+// layout, stride path and size; the row of a kernel names its tree (zelmsum.h), which square matrices of side 3 to 6
+// take. Nothing is fused. Vectors hold objects, elements of one result or, where the sum pairs them, its terms, a lane
+// each.
 #pragma once
 
-#include "zelmframe.h"
+#include "zelmmulvsignature.h"
+#include "zelmsum.h"
 #include "zelmtriples.h"
 
-// clang-format off
-#define MATRIX_VECTOR(V, T, A, B, D)  V##_##A(src1, const T), V##_SIZE(src1Width), V##_SIZE(src1Height), V##_##B(src2, const T), V##_SIZE(src2Len), V##_##D(dst, T)
-#define MATRIX_VECTOR_BATCH(V, T, A, B, D)  MATRIX_VECTOR(V, T, A, B, D), V##_COUNT
-
-#define MV_S(V, T)    MATRIX_VECTOR(V, T, M_S, V_S, V_S)
-#define TV_S(V, T)    MATRIX_VECTOR(V, T, T_S, V_S, V_S)
-#define MV_P(V, T)    MATRIX_VECTOR(V, T, M_P, V_P, V_P)
-#define TV_P(V, T)    MATRIX_VECTOR(V, T, T_P, V_P, V_P)
-#define MAV_S(V, T)   MATRIX_VECTOR_BATCH(V, T, MA_S, V_S, VA_S)
-#define TAV_S(V, T)   MATRIX_VECTOR_BATCH(V, T, TA_S, V_S, VA_S)
-#define MVA_S(V, T)   MATRIX_VECTOR_BATCH(V, T, M_S, VA_S, VA_S)
-#define TVA_S(V, T)   MATRIX_VECTOR_BATCH(V, T, T_S, VA_S, VA_S)
-#define MAVA_S(V, T)  MATRIX_VECTOR_BATCH(V, T, MA_S, VA_S, VA_S)
-#define TAVA_S(V, T)  MATRIX_VECTOR_BATCH(V, T, TA_S, VA_S, VA_S)
-#define MAV_L(V, T)   MATRIX_VECTOR_BATCH(V, T, MA_L, V_S, VA_L)
-#define TAV_L(V, T)   MATRIX_VECTOR_BATCH(V, T, TA_L, V_S, VA_L)
-#define MVA_L(V, T)   MATRIX_VECTOR_BATCH(V, T, M_S, VA_L, VA_L)
-#define TVA_L(V, T)   MATRIX_VECTOR_BATCH(V, T, T_S, VA_L, VA_L)
-#define MAVA_L(V, T)  MATRIX_VECTOR_BATCH(V, T, MA_L, VA_L, VA_L)
-#define TAVA_L(V, T)  MATRIX_VECTOR_BATCH(V, T, TA_L, VA_L, VA_L)
-#define MAV_P(V, T)   MATRIX_VECTOR_BATCH(V, T, MA_P, V_P, VA_P)
-#define TAV_P(V, T)   MATRIX_VECTOR_BATCH(V, T, TA_P, V_P, VA_P)
-#define MVA_P(V, T)   MATRIX_VECTOR_BATCH(V, T, M_P, VA_P, VA_P)
-#define TVA_P(V, T)   MATRIX_VECTOR_BATCH(V, T, T_P, VA_P, VA_P)
-#define MAVA_P(V, T)  MATRIX_VECTOR_BATCH(V, T, MA_P, VA_P, VA_P)
-#define TAVA_P(V, T)  MATRIX_VECTOR_BATCH(V, T, TA_P, VA_P, VA_P)
-
-#define GAXPY(V, T, A, B, C, D)  V##_##A(src1, const T), V##_SIZE(src1Width), V##_SIZE(src1Height), V##_##B(src2, const T), V##_SIZE(src2Len), V##_##C(src3, const T), V##_SIZE(src3Len), V##_##D(dst, T)
-#define GAXPY_BATCH(V, T, A, B, C, D)  GAXPY(V, T, A, B, C, D), V##_COUNT
-
-#define GAXPY_MV_S(V, T)    GAXPY(V, T, M_S, V_S, V_S, V_S)
-#define GAXPY_MV_P(V, T)    GAXPY(V, T, M_P, V_P, V_P, V_P)
-#define GAXPY_MVA_S(V, T)   GAXPY_BATCH(V, T, M_S, VA_S, VA_S, VA_S)
-#define GAXPY_MVA_L(V, T)   GAXPY_BATCH(V, T, M_S, VA_L, VA_L, VA_L)
-#define GAXPY_MVA_P(V, T)   GAXPY_BATCH(V, T, M_P, VA_P, VA_P, VA_P)
-#define GAXPY_MVAV_S(V, T)  GAXPY_BATCH(V, T, M_S, VA_S, V_S, VA_S)
-#define GAXPY_MVAV_L(V, T)  GAXPY_BATCH(V, T, M_S, VA_L, V_S, VA_L)
-#define GAXPY_MVAV_P(V, T)  GAXPY_BATCH(V, T, M_P, VA_P, V_P, VA_P)
-// clang-format on
-
 namespace zelm {
-
-// ---------------------------------------------------------------------------------------------------------------------
-// The sums. of<N>(row, t) adds the terms t[0] .. t[N-1] of result element `row`. A kernel has these sums for square
-// matrices of side 3 to 6; every other size is summed from +0.0 in ascending order, in every kernel.
-
-// t0 + t1 + ..., from the first product on.
-struct Chain {
-  using Straight = Sizes<3, 4, 5, 6>;
-  template <int N, class L> ZELM_INLINE static L of(int, const L (&t)[N]) {
-    L sum = t[0];
-    ZELM_UNROLL
-    for (int k = 1; k < N; ++k)
-      sum = sum + t[k];
-    return sum;
-  }
-};
-
-// No straight-line sizes: +0.0 + t0 + t1 + ... at every size.
-struct ZeroChain {
-  using Straight = Sizes<>;
-};
-
-struct EvenOdd {
-  using Straight = Sizes<3, 4, 5, 6>;
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[3]) { return Chain::of<3>(0, t); }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[4]) { return (t[0] + t[2]) + (t[1] + t[3]); }
-  // The last of five elements pairs its terms differently; this is meant.
-  template <class L> ZELM_INLINE static L of(int row, const L (&t)[5]) {
-    return row == 4 ? ((t[0] + t[2]) + t[4]) + (t[1] + t[3]) : ((t[0] + t[1]) + t[4]) + (t[2] + t[3]);
-  }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[6]) {
-    return ((t[0] + t[2]) + t[4]) + ((t[1] + t[3]) + t[5]);
-  }
-};
-
-struct Pairs32 {
-  using Straight = Sizes<3, 4, 5, 6>;
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[3]) { return Chain::of<3>(0, t); }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[4]) { return (t[0] + t[1]) + (t[2] + t[3]); }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[5]) { return ((t[0] + t[1]) + t[4]) + (t[2] + t[3]); }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[6]) {
-    return ((t[0] + t[1]) + (t[2] + t[3])) + (t[4] + t[5]);
-  }
-};
-
-// As Pairs32 but for the fifth term.
-struct Pairs64 {
-  using Straight = Sizes<3, 4, 5, 6>;
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[3]) { return Chain::of<3>(0, t); }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[4]) { return (t[0] + t[1]) + (t[2] + t[3]); }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[5]) { return ((t[0] + t[1]) + (t[2] + t[3])) + t[4]; }
-  template <class L> ZELM_INLINE static L of(int, const L (&t)[6]) {
-    return ((t[0] + t[1]) + (t[2] + t[3])) + (t[4] + t[5]);
-  }
-};
-
-// The last term first, then the others in ascending order; three terms are a chain.
-struct TailFirst {
-  using Straight = Sizes<3, 4, 5, 6>;
-  template <int N, class L> ZELM_INLINE static L of(int, const L (&t)[N]) {
-    if constexpr (N == 3) {
-      return Chain::of<3>(0, t);
-    } else {
-      L sum = t[N - 1];
-      ZELM_UNROLL
-      for (int k = 0; k < N - 1; ++k)
-        sum = sum + t[k];
-      return sum;
-    }
-  }
-};
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Arithmetic on tiles
@@ -179,9 +70,9 @@ template <class T, int Elements> struct PackedObjects {
   ZELM_INLINE Byte<T>* address(int64_t k) const { return first + k * bytes; }
   // Of objects k, k + 1, ...
   ZELM_INLINE auto addresses(int64_t k) const {
-    ObjectAddresses<Element, Byte<T>> objects;
+    ObjectAddresses<Element, Byte<T>, rowLaneCount<Element>> objects;
     ZELM_UNROLL
-    for (int w = 0; w < laneCount<Element>; ++w)
+    for (int w = 0; w < rowLaneCount<Element>; ++w)
       objects.of[w] = address(k) + w * bytes;
     return objects;
   }
@@ -191,15 +82,15 @@ template <class> constexpr bool isPackedObjects = false;
 template <class T, int Elements> constexpr bool isPackedObjects<PackedObjects<T, Elements>> = true;
 
 // Packed matrices, one a lane, that are read row by row.
-template <class T, int N> struct PackedRows { ObjectAddresses<T, const char> objects; };
-template <class T, int N> ZELM_INLINE Tile<Lanes<T>, 1, N> rowOf(const PackedRows<T, N>& matrix, int i) {
+template <class T, int N> struct PackedRows { ObjectAddresses<T, const char, rowLaneCount<T>> objects; };
+template <class T, int N> ZELM_INLINE Tile<RowLanes<T>, 1, N> rowOf(const PackedRows<T, N>& matrix, int i) {
   constexpr int Q = chunkElements<T>;
-  Tile<Lanes<T>, 1, N> row;
+  Tile<RowLanes<T>, 1, N> row;
   ZELM_UNROLL
   for (int k = 0; k < N; k += Q) {
     // A chunk may reach into the next row, but not beyond the object.
     const int from = i * N + k + Q <= N * N ? i * N + k : N * N - Q;
-    Lanes<T> chunk[Q];
+    RowLanes<T> chunk[Q];
     loadChunk<T>(matrix.objects, from * static_cast<int64_t>(sizeof(T)), chunk);
     ZELM_UNROLL
     for (int q = 0; q < Q; ++q) {
@@ -214,7 +105,7 @@ template <class T, int N> ZELM_INLINE Tile<Lanes<T>, 1, N> rowOf(const PackedRow
 // Packed matrices, one a lane, as a whole.
 template <int N, class T, int Elements>
 ZELM_INLINE auto loadPackedMatrices(const PackedObjects<const T, Elements>& x, int64_t k) {
-  Tile<Lanes<T>, N, N> tile;
+  Tile<RowLanes<T>, N, N> tile;
   loadRun<N * N, T>(x.addresses(k), 0, tile.element);
   return tile;
 }
@@ -223,13 +114,13 @@ template <class T, int N> ZELM_INLINE auto loadPackedVectors(const PackedObjects
   if constexpr (N == 3) {
     return loadTriples<T>(x.address(k));
   } else {
-    Tile<Lanes<T>, 1, N> tile;
+    Tile<RowLanes<T>, 1, N> tile;
     loadRun<N, T>(x.addresses(k), 0, tile.element);
     return tile;
   }
 }
 template <class T, int N>
-ZELM_INLINE void storePackedVectors(const PackedObjects<T, N>& x, int64_t k, const Tile<Lanes<T>, 1, N>& tile) {
+ZELM_INLINE void storePackedVectors(const PackedObjects<T, N>& x, int64_t k, const Tile<RowLanes<T>, 1, N>& tile) {
   if constexpr (N == 3)
     storeTriples<false>(x.address(k), tile);
   else
@@ -356,14 +247,14 @@ template <bool transposed, class View> ZELM_INLINE auto factor(const View& matri
 }
 
 // Element j of N in all lanes.
-#ifdef __AVX2__
+#if ZELM_ROW_BYTES == 32
 template <class L, int N, int j> ZELM_INLINE L spread(const char* vector) {
   using T = ElementOf<L>;
   L lanes = splat<L>(loadElement<T>(vector + j * static_cast<int>(sizeof(T))));
   // Narrower vectors take their lanes from here. The compiler does not see where they come from, or it would load the
   // element once more for those, or in place of the vector.
   if constexpr (N > LaneTraits<L>::width)
-    asm("" : "+x"(lanes));
+    hideOrigin(lanes);
   return lanes;
 }
 #else
@@ -371,7 +262,7 @@ template <class L, int N, int j> ZELM_INLINE L spread(const char* vector) {
   using T = ElementOf<L>;
   constexpr int Q = chunkElements<T>;
   constexpr int from = smaller(j / Q * Q, N - Q);
-  return spreadLane(loadLanes<T>(vector + from * static_cast<int>(sizeof(T))), j - from);
+  return spreadLane(loadRowLanes<T>(vector + from * static_cast<int>(sizeof(T))), j - from);
 }
 #endif
 
@@ -385,14 +276,6 @@ template <class L, class V> ZELM_INLINE L narrow(const V& v) {
     return __builtin_shufflevector(v, v, 0, 1);
 }
 
-// The low half of four floats as one element.
-ZELM_INLINE double lowPair(const Lanes<float, 4>& v) {
-  return _mm_cvtsd_f64(_mm_castps_pd(v));
-}
-ZELM_INLINE Lanes<float, 4> loadPair(const char* address) {
-  return _mm_castpd_ps(_mm_set_sd(loadElement<double>(address)));
-}
-
 // The addend of the elements at `offset` bytes into the packed result, or of a single vector what `held` has of it.
 template <bool half = false, class C, class L>
 ZELM_INLINE L addTo(const L& sum, const C& src3, int64_t offset, const L& held) {
@@ -401,7 +284,7 @@ ZELM_INLINE L addTo(const L& sum, const C& src3, int64_t offset, const L& held) 
   else if constexpr (!C::isArray)
     return sum + held;
   else if constexpr (half)
-    return sum + loadPair(src3.first + offset);
+    return sum + loadTwo(src3.first + offset);
   else if constexpr (LaneTraits<L>::width == 1)
     return sum + loadElement<L>(src3.first + offset);
   else
@@ -418,18 +301,18 @@ template <class L, class C, class F> ZELM_INLINE L holdAddend(const C& src3, con
 template <bool transposed, class A, class T, class C>
 ZELM_INLINE int64_t multiplyTriples(const A& stored, const PackedObjects<const T, 3>& src2, const C& src3,
                                     const PackedObjects<T, 3>& dst, int64_t end) {
-  constexpr int W = laneCount<T>;
+  constexpr int W = rowLaneCount<T>;
   const auto matrix = stored.object(0, 3);
   const TripleFactors<T> factors([&](int i, int j) { return factor<transposed>(matrix, i, j); });
-  Lanes<T> held[3];
+  RowLanes<T> held[3];
   ZELM_UNROLL
   for (int v = 0; v < 3; ++v)
-    held[v] = holdAddend<Lanes<T>>(src3, [v](int w) { return (v * W + w) % 3; });
+    held[v] = holdAddend<RowLanes<T>>(src3, [v](int w) { return (v * W + w) % 3; });
   int64_t k = 0;
   for (; k + W <= end; k += W) {
     const int64_t offset = k * dst.bytes;
-    const auto put = [&](int v, const Lanes<T>& product) __attribute__((always_inline)) {
-      const int64_t at = offset + v * vectorBytes;
+    const auto put = [&](int v, const RowLanes<T>& product) __attribute__((always_inline)) {
+      const int64_t at = offset + v * rowBytes;
       storeLanes(dst.first + at, addTo(product, src3, at, held[v]));
     };
     put(0, factors.template multiply<0>(src2.first + offset));
@@ -457,34 +340,33 @@ template <int distance, class L, int... w> ZELM_INLINE L crossed(const L& lanes,
 
 // The elements that the lanes take of a vector: lane w element firstOf(w), then the one `inner` off.
 template <int inner> struct PairsOfFour {
-  using L = Lanes<float>;
-#ifdef __AVX2__
+  using L = RowLanes<float>;
+#if ZELM_ROW_BYTES == 32
   // Loads that fill two lanes with an element cost no shuffle.
   static constexpr int firstOf(int w) {
     return w & ~inner;
   }
   ZELM_INLINE static L first(const char* x) {
-    return inner == 1 ? _mm256_moveldup_ps(loadLanes<float>(x))
-                      : _mm256_castpd_ps(_mm256_movedup_pd(loadLanes<double>(x)));
+    return inner == 1 ? loadEvenTwice(x) : loadLowPairTwice(x);
   }
   // Unless it is the last vector, what lies behind it may be read.
   template <bool last> ZELM_INLINE static L second(const char* x) {
     if constexpr (inner == 1)
-      return _mm256_movehdup_ps(loadLanes<float>(x));
+      return loadOddTwice(x);
     else if constexpr (last)
-      return _mm256_castpd_ps(_mm256_permute_pd(loadLanes<double>(x), 0xf));
+      return loadHighPairTwice(x);
     else
-      return _mm256_castpd_ps(_mm256_movedup_pd(loadLanes<double>(x + 8)));
+      return loadLowPairTwice(x + 8);
   }
 #else
   static constexpr int firstOf(int w) {
     return w;
   }
   ZELM_INLINE static L first(const char* x) {
-    return loadLanes<float>(x);
+    return loadRowLanes<float>(x);
   }
   template <bool last> ZELM_INLINE static L second(const char* x) {
-    return crossed<inner>(loadLanes<float>(x), std::make_integer_sequence<int, 4>{});
+    return crossed<inner>(loadRowLanes<float>(x), std::make_integer_sequence<int, 4>{});
   }
 #endif
 };
@@ -492,11 +374,11 @@ template <int inner> struct PairsOfFour {
 template <class Tree, bool transposed, class A, class C>
 ZELM_INLINE int64_t multiplyFours(const A& stored, const PackedObjects<const float, 4>& src2, const C& src3,
                                   const PackedObjects<float, 4>& dst, int64_t end) {
-  using L = Lanes<float>;
+  using L = RowLanes<float>;
   using Pairs = PairsOfFour<Crosswise<Tree>::inner>;
   constexpr int inner = Crosswise<Tree>::inner;
   constexpr int outer = Crosswise<Tree>::outer;
-  const std::make_integer_sequence<int, laneCount<float>> lanes;
+  const std::make_integer_sequence<int, rowLaneCount<float>> lanes;
   const auto matrix = stored.object(0, 4);
   // What lane w multiplies its element by, or the one `column` off, for row w or the one `row` off.
   const auto hold = [&](int row, int column) {
@@ -508,7 +390,7 @@ ZELM_INLINE int64_t multiplyFours(const A& stored, const PackedObjects<const flo
   const L othersOwn = hold(outer, 0);
   const L othersPaired = hold(outer, inner);
   const L held = holdAddend<L>(src3, [](int w) { return w % 4; });
-  constexpr int64_t width = laneCount<float> / 4;
+  constexpr int64_t width = rowLaneCount<float> / 4;
   const auto multiplyAt = [&](int64_t k, auto last) __attribute__((always_inline)) {
     const int64_t offset = k * dst.bytes;
     const L x = Pairs::first(src2.first + offset);
@@ -536,7 +418,7 @@ template <> inline constexpr int exchangingRow<EvenOdd, 5> = 4;
 
 template <class Tree, class T, int N, int from = 0> struct Columns {
   static constexpr int rows = N - from;
-  static constexpr int W = rows == 1 ? 1 : rows > chunkElements<T> ? laneCount<T> : chunkElements<T>;
+  static constexpr int W = rows == 1 ? 1 : rows > chunkElements<T> ? rowLaneCount<T> : chunkElements<T>;
   static constexpr int used = smaller(rows, W);
   // Half of a vector of four is stored alone. What a wider vector has too much goes into the next object, which is done
   // after.
@@ -598,7 +480,7 @@ template <class Tree, class T, int N, int from = 0> struct Columns {
     if constexpr (from + W < N)
       rest.multiplySpread(x, src3, dst, offset);
     if constexpr (half)
-      storeElement(dst + at, lowPair(sum));
+      storeElement(dst + at, lowBits(sum));
     else if constexpr (W == 1)
       storeElement(dst + at, sum);
     else
@@ -615,12 +497,12 @@ template <class Tree, int N, bool transposed, class A, class T, class C>
 ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T, N>& src2, const C& src3,
                                     const PackedObjects<T, N>& dst, int64_t count) {
   // What an object loads and stores too much is the next one's.
-  const int64_t end = N < laneCount<T> ? count - 1 : count;
+  const int64_t end = N < rowLaneCount<T> ? count - 1 : count;
   Columns<Tree, T, N> columns;
   columns.template hold<transposed>(stored.object(0, N), src3);
   int64_t k = 0;
   // Objects of one vector are too short for a loop's own instructions not to count.
-  constexpr int64_t step = N <= laneCount<T> ? 4 : 1;
+  constexpr int64_t step = N <= rowLaneCount<T> ? 4 : 1;
   for (; k + step <= end; k += step) {
     ZELM_UNROLL
     for (int o = 0; o < step; ++o)
@@ -636,8 +518,8 @@ ZELM_INLINE int64_t multiplyColumns(const A& stored, const PackedObjects<const T
 
 // What multiplies as many rows as a vector has lanes.
 template <class Tree, class T, int N> struct RowFactor {
-  using L = Lanes<T>;
-  static constexpr int W = laneCount<T>;
+  using L = RowLanes<T>;
+  static constexpr int W = rowLaneCount<T>;
   static constexpr auto E = static_cast<int64_t>(sizeof(T));
   // Two rows of N elements are N vectors: multiplied as they lie, by the elements as they meet them, and turned after.
   static constexpr bool asTheyLie = W == 2;
@@ -663,12 +545,12 @@ template <class Tree, class T, int N> struct RowFactor {
     return Tree::of(0, term);
   }
 
-#ifdef __AVX2__
-  ZELM_INLINE static Lanes<double> addPairs(Lanes<double> p, Lanes<double> q) {
+#if ZELM_ROW_BYTES == 32
+  ZELM_INLINE static RowLanes<double> addPairs(RowLanes<double> p, RowLanes<double> q) {
     return pick<0, 2>(p, q) + pick<1, 3>(p, q);
   }
-  ZELM_INLINE Lanes<double> sumByFours(const char* rows) const {
-    const auto products = [&](int i) { return loadLanes<double>(rows + i * N * E) * x[0]; };
+  ZELM_INLINE RowLanes<double> sumByFours(const char* rows) const {
+    const auto products = [&](int i) { return loadRowLanes<double>(rows + i * N * E) * x[0]; };
     const auto s = addPairs(products(0), products(1)); // t0 + t1 of both rows | t2 + t3
     const auto t = addPairs(products(2), products(3));
     const auto sum = __builtin_shufflevector(s, t, 0, 1, 4, 5) + __builtin_shufflevector(s, t, 2, 3, 6, 7);
@@ -676,7 +558,7 @@ template <class Tree, class T, int N> struct RowFactor {
       return sum;
     } else if constexpr (N == 5) {
       // The fifth element of row i is in lane i of the vector 4 * i elements behind that of row 0.
-      const auto from = [&](int i) { return loadLanes<double>(rows + (4 + 4 * i) * E); };
+      const auto from = [&](int i) { return loadRowLanes<double>(rows + (4 + 4 * i) * E); };
       const auto low = __builtin_shufflevector(from(0), from(1), 0, 5, 2, 3);
       const auto high = __builtin_shufflevector(from(2), from(3), 0, 1, 2, 7);
       return sum + __builtin_shufflevector(low, high, 0, 1, 6, 7) * x[4];
@@ -696,7 +578,7 @@ template <class Tree, class T, int N> struct RowFactor {
       L product[N];
       ZELM_UNROLL
       for (int v = 0; v < N; ++v)
-        product[v] = loadLanes<T>(rows + v * vectorBytes) * x[v];
+        product[v] = loadRowLanes<T>(rows + v * rowBytes) * x[v];
       return sumAsTheyLie(product, std::make_integer_sequence<int, N>{});
     } else if constexpr (byFours) {
       return this->sumByFours(rows);
@@ -724,7 +606,7 @@ template <class Tree, class T, int N> ZELM_INLINE T multiplyRow(const char* elem
 template <class Tree, int N, class T, class B>
 ZELM_INLINE int64_t multiplyRowsBySingle(const PackedObjects<const T, N * N>& stored, const B& src2,
                                          const PackedObjects<T, N>& dst, int64_t count) {
-  constexpr int64_t W = laneCount<T>;
+  constexpr int64_t W = rowLaneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   const auto vector = loadVectorTile<N>(src2.object(0));
   const RowFactor<Tree, T, N> factor(vector);
@@ -744,7 +626,7 @@ template <class Tree, int N, class T>
 ZELM_INLINE int64_t multiplyRowsByArray(const PackedObjects<const T, N * N>& stored,
                                         const PackedObjects<const T, N>& src2, const PackedObjects<T, N>& dst,
                                         int64_t count) {
-  constexpr int W = laneCount<T>;
+  constexpr int W = rowLaneCount<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   for (int64_t k = 0; k < count; ++k) {
     const auto vector = loadElements<N, T>(src2.address(k));
@@ -765,31 +647,31 @@ ZELM_INLINE int64_t multiplyRowsByArray(const PackedObjects<const T, N * N>& sto
 // and halves what is left.
 
 // t0 + t2 and t1 + t3 of a vector of rows and the one behind; 32-byte vectors hold rows 0 2 | 1 3.
-ZELM_INLINE Lanes<float> evenAndOdd(const char* rows, const Lanes<float>& x) {
-  const Lanes<float> p = loadLanes<float>(rows) * x;
-  const Lanes<float> q = loadLanes<float>(rows + vectorBytes) * x;
+ZELM_INLINE RowLanes<float> evenAndOdd(const char* rows, const RowLanes<float>& x) {
+  const RowLanes<float> p = loadRowLanes<float>(rows) * x;
+  const RowLanes<float> q = loadRowLanes<float>(rows + rowBytes) * x;
   return pick<0, 1, 4, 5>(p, q) + pick<2, 3, 6, 7>(p, q);
 }
-ZELM_INLINE Lanes<float> addOdd(const Lanes<float>& s, const Lanes<float>& t) {
+ZELM_INLINE RowLanes<float> addOdd(const RowLanes<float>& s, const RowLanes<float>& t) {
   return pick<0, 2, 4, 6>(s, t) + pick<1, 3, 5, 7>(s, t);
 }
-#ifdef __AVX2__
+#if ZELM_ROW_BYTES == 32
 // Two objects.
 constexpr int foursAtOnce = 2;
-ZELM_INLINE Lanes<float> loadFour(const char* x) {
+ZELM_INLINE RowLanes<float> loadFour(const char* x) {
   const auto half = loadLanes<float, 4>(x);
   return joinHalves(half, half);
 }
-ZELM_INLINE Lanes<float> sumFours(const char* matrices, const Lanes<float>& x, const Lanes<float>& y) {
+ZELM_INLINE RowLanes<float> sumFours(const char* matrices, const RowLanes<float>& x, const RowLanes<float>& y) {
   const auto sums = addOdd(evenAndOdd(matrices, x), evenAndOdd(matrices + 64, y)); // rows 0 2 0 2 | 1 3 1 3
   return __builtin_shufflevector(sums, sums, 0, 4, 1, 5, 2, 6, 3, 7);
 }
 #else
 constexpr int foursAtOnce = 1;
-ZELM_INLINE Lanes<float> loadFour(const char* x) {
-  return loadLanes<float>(x);
+ZELM_INLINE RowLanes<float> loadFour(const char* x) {
+  return loadRowLanes<float>(x);
 }
-ZELM_INLINE Lanes<float> sumFours(const char* matrix, const Lanes<float>& x, const Lanes<float>&) {
+ZELM_INLINE RowLanes<float> sumFours(const char* matrix, const RowLanes<float>& x, const RowLanes<float>&) {
   return addOdd(evenAndOdd(matrix, x), evenAndOdd(matrix + 32, x));
 }
 #endif
@@ -797,9 +679,9 @@ ZELM_INLINE Lanes<float> sumFours(const char* matrix, const Lanes<float>& x, con
 template <class B>
 ZELM_INLINE int64_t multiplyFourTerms(const PackedObjects<const float, 16>& stored, const B& src2,
                                       const PackedObjects<float, 4>& dst, int64_t end) {
-  Lanes<float> held{};
+  RowLanes<float> held{};
   if constexpr (!B::isArray)
-    held = lanesOf<Lanes<float>>([&](int w) { return src2.object(0).load(w % 4); });
+    held = lanesOf<RowLanes<float>>([&](int w) { return src2.object(0).load(w % 4); });
   const auto vector = [&](int64_t k) {
     if constexpr (B::isArray)
       return loadFour(src2.address(k));
@@ -865,7 +747,7 @@ template <int Elements, class Operand> ZELM_INLINE auto asPacked(const Operand& 
 template <class Tree, int N, bool transposed, class A, class B, class C, class D>
 ZELM_NOINLINE int64_t multiplyPacked(A stored, B src2, C src3, D dst, int64_t count) {
   using T = typename D::Element;
-  if constexpr (!A::isArray && N == 3 && laneCount<T> >= 4)
+  if constexpr (!A::isArray && N == 3 && rowLaneCount<T> >= 4)
     return multiplyTriples<transposed>(stored, src2, src3, dst, count);
   else if constexpr (!A::isArray && N == 4 && Crosswise<Tree>::inner != 0)
     return multiplyFours<Tree, transposed>(stored, src2, src3, dst, count);
@@ -875,10 +757,10 @@ ZELM_NOINLINE int64_t multiplyPacked(A stored, B src2, C src3, D dst, int64_t co
     return multiplyFourTerms(stored, src2, dst, count);
   else if constexpr (A::isArray && !transposed && !B::isArray && exchangingRow<Tree, N> < 0)
     return multiplyRowsBySingle<Tree, N>(stored, src2, dst, count);
-  else if constexpr (A::isArray && !transposed && B::isArray && sizeof(T) == 8 && N >= laneCount<T>)
+  else if constexpr (A::isArray && !transposed && B::isArray && sizeof(T) == 8 && N >= rowLaneCount<T>)
     return multiplyRowsByArray<Tree, N>(stored, src2, dst, count);
   else
-    return multiplyStraight<Tree, Lanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
+    return multiplyStraight<Tree, RowLanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
 }
 
 template <class Tree, int N, class A, class B, class C, class D>
@@ -893,7 +775,7 @@ inline void multiplySide(const A& src1, const B& src2, const C& src3, const D& d
                                               asPacked<N>(dst), count);
   } else if constexpr (isInterleaved<D>) {
     if (neighboursOrSingle(src1) && neighboursOrSingle(src2) && neighboursOrSingle(src3) && neighboursOrSingle(dst))
-      k = multiplyStraight<Tree, Lanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
+      k = multiplyStraight<Tree, RowLanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
   }
   multiplyStraight<Tree, T, N, transposed>(stored, src2, src3, dst, k, count);
 }
@@ -911,11 +793,11 @@ template <class L, class A, class X> ZELM_INLINE L sumRows(const A& a, const X& 
       sum = sum + a.load(i, k) * x.load(k);
   } else if constexpr (A::unitColumns) {
     for (int32_t k = 0; k < terms; ++k)
-      sum = sum + loadLanes<T>(a.address(i, k)) * splat<L>(x.load(k));
+      sum = sum + loadRowLanes<T>(a.address(i, k)) * splat<L>(x.load(k));
   } else {
     // Rows in memory: square blocks of them are transposed in registers.
     constexpr int Q = chunkElements<T>;
-    ObjectAddresses<T, const char> rows;
+    ObjectAddresses<T, const char, rowLaneCount<T>> rows;
     ZELM_UNROLL
     for (int w = 0; w < W; ++w)
       rows.of[w] = a.address(i + w, 0);
@@ -949,10 +831,10 @@ inline void multiplyGeneral(const A& a, const X& x, const Y& addend, const D& ds
   };
   int32_t i = 0;
   if constexpr (A::unitRows || A::unitColumns) {
-    using L = Lanes<T>;
-    for (; i + laneCount<T> <= rows; i += laneCount<T>) {
+    using L = RowLanes<T>;
+    for (; i + rowLaneCount<T> <= rows; i += rowLaneCount<T>) {
       const L sum = sumRows<L>(a, x, i, terms);
-      for (int w = 0; w < laneCount<T>; ++w)
+      for (int w = 0; w < rowLaneCount<T>; ++w)
         put(i + w, sum[w]);
     }
   }
@@ -1006,69 +888,15 @@ ZELM_INLINE ZelStatus multiplyBatch(const A& src1, int32_t width, int32_t height
 }
 
 template <class Tree, class A, class B, class D>
-ZELM_INLINE ZelStatus multiplyVectors(Tree, const A& src1, Size src1Width, Size src1Height, const B& src2, Size,
-                                      const D& dst, Count count = 1) {
+ZELM_INLINE ZelStatus multiplyVectors(const A& src1, Size src1Width, Size src1Height, const B& src2, Size, const D& dst,
+                                      Count count = 1) {
   return multiplyBatch<Tree>(src1, src1Width, src1Height, src2, NoAddend{}, dst, count);
 }
 
 template <class Tree, class A, class B, class C, class D>
-ZELM_INLINE ZelStatus multiplyAddVectors(Tree, const A& src1, Size src1Width, Size src1Height, const B& src2, Size,
+ZELM_INLINE ZelStatus multiplyAddVectors(const A& src1, Size src1Width, Size src1Height, const B& src2, Size,
                                          const C& src3, Size, const D& dst, Count count = 1) {
   return multiplyBatch<Tree>(src1, src1Width, src1Height, src2, src3, dst, count);
 }
-
-// ---------------------------------------------------------------------------------------------------------------------
-// Agreement of the sizes, and the work estimates: the elements that a call touches
-
-struct MatrixByVector {
-  template <class A, class B, class D, class... Batch>
-  static bool agree(const A&, Size src1Width, Size src1Height, const B&, Size src2Len, const D&, const Batch&...) {
-    return (isTransposed<A> ? src1Height : src1Width) == src2Len;
-  }
-};
-
-template <class A> constexpr Wrapping resultLen(Size src1Width, Size src1Height) {
-  return isTransposed<A> ? src1Width : src1Height;
-}
-
-// mva tva
-struct SingleMatrix {
-  template <class A, class B, class D>
-  static Wrapping of(const A&, Size src1Width, Size src1Height, const B&, Size src2Len, const D&, Count count) {
-    return Wrapping(src1Width) * src1Height + (Wrapping(src2Len) + resultLen<A>(src1Width, src1Height)) * count;
-  }
-};
-// mav tav
-struct SingleVector {
-  template <class A, class B, class D>
-  static Wrapping of(const A&, Size src1Width, Size src1Height, const B&, Size src2Len, const D&, Count count) {
-    return Wrapping(src2Len) + (Wrapping(src1Width) * src1Height + resultLen<A>(src1Width, src1Height)) * count;
-  }
-};
-// mava tava
-struct NoSingle {
-  template <class A, class B, class D>
-  static Wrapping of(const A&, Size src1Width, Size src1Height, const B&, Size src2Len, const D&, Count count) {
-    return (Wrapping(src1Width) * src1Height + src2Len + resultLen<A>(src1Width, src1Height)) * count;
-  }
-};
-
-using N_Z_M_S_MV = N_Z_M_S<MatrixByVector>;
-using N_Z_M_H_MV = N_Z_M_H<MatrixByVector>;
-using N_C_Z_M_S_MV = N_C_Z_M_S<MatrixByVector>;
-using N_C_Z_M_S_H_MV = N_C_Z_M_S_H<MatrixByVector>;
-
-struct MatrixByVectorPlusVector {
-  template <class A, class B, class C, class D, class... Batch>
-  static bool agree(const A&, Size src1Width, Size src1Height, const B&, Size src2Len, const C&, Size src3Len, const D&,
-                    const Batch&...) {
-    return src1Width == src2Len && src1Height == src3Len;
-  }
-};
-
-using N_Z_M_S_Gaxpy = N_Z_M_S<MatrixByVectorPlusVector>;
-using N_Z_M_H_Gaxpy = N_Z_M_H<MatrixByVectorPlusVector>;
-using N_C_Z_M_S_Gaxpy = N_C_Z_M_S<MatrixByVectorPlusVector>;
-using N_C_Z_M_S_H_Gaxpy = N_C_Z_M_S_H<MatrixByVectorPlusVector>;
 
 } // namespace zelm

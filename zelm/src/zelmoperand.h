@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #ifdef __FAST_MATH__
 #  error "results are pinned to the bit: build without -ffast-math"
@@ -142,10 +143,12 @@ template <class T> struct PointerVectorView {
 
 // What an argument answers unless it knows better.
 struct Argument {
+  static constexpr bool isArray = false;
   static constexpr bool null() { return false; }
   static constexpr bool badCount() { return false; }
   static constexpr bool badSize() { return false; }
-  static constexpr bool badStride() { return false; }
+  static constexpr bool badObjectStride() { return false; }  // from object to object
+  static constexpr bool badElementStride() { return false; } // within an object
   static constexpr bool badShift() { return false; }
   static constexpr bool unit() { return true; }
   // Bytes of scratch that each thread of a front needs.
@@ -171,12 +174,22 @@ struct Size : Argument {
 
 struct Count : Argument {
   int32_t value;
-  constexpr Count(int32_t count) : value(count) {}
+  int32_t whole; // the call's, in a thread's share
+  constexpr Count(int32_t count) : value(count), whole(count) {}
+  constexpr Count(int32_t count, int32_t all) : value(count), whole(all) {}
   constexpr operator int32_t() const { return value; }
   constexpr bool badCount() const { return value < 1; }
   template <class> constexpr Count forKernel() const { return *this; }
-  constexpr Count advanced(const Share& share) const { return share.count; }
+  constexpr Count advanced(const Share& share) const { return {share.count, whole}; }
 };
+
+// The objects of the call, where a count is one or a plain number.
+constexpr int64_t wholeOf(const Count& count) {
+  return count.whole;
+}
+constexpr int64_t wholeOf(int64_t count) {
+  return count;
+}
 
 // A constant passed by value.
 template <class T> struct Constant : Argument {
@@ -201,7 +214,12 @@ template <class T> struct Plain : Argument {
   constexpr Plain single(int64_t k) const { return {pointer + k * each, each}; }
 };
 
-// The caller's scratch of `size` elements for one object; in a front, the thread's part of the front's block.
+template <class T> ZELM_INLINE void storeResult(const Plain<T>& dst, int64_t k, T value) {
+  storeElement(reinterpret_cast<char*>(dst.pointer + k), value);
+}
+
+// The caller's scratch of `size` elements for one object, or bytes of void; in a front, the thread's part of the
+// front's block.
 template <class T> struct Buffer : Argument {
   T* pointer;
   int32_t size;
@@ -210,7 +228,7 @@ template <class T> struct Buffer : Argument {
   constexpr bool null() const { return pointer == nullptr; }
   // More than fits is the most that fits: no front can have two of those.
   constexpr int32_t scratch() const {
-    const int64_t bytes = int64_t{size} * static_cast<int64_t>(sizeof(T));
+    const int64_t bytes = int64_t{size} * static_cast<int64_t>(sizeof(std::conditional_t<std::is_void_v<T>, char, T>));
     return bytes <= INT32_MAX ? static_cast<int32_t>(bytes) : INT32_MAX;
   }
   template <class> constexpr Buffer forKernel() const { return *this; }
@@ -229,7 +247,7 @@ template <class T, class Stride = AnyStride> struct Matrix : Argument {
   Step stride2;
   constexpr Matrix(T* x, int32_t s1, Step s2) : pointer(x), stride1(s1), stride2(s2) {}
   constexpr bool null() const { return pointer == nullptr; }
-  constexpr bool badStride() const {
+  constexpr bool badElementStride() const {
     return isBadStride<T>(stride1) || isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
   }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
@@ -276,9 +294,9 @@ template <class T, class Stride = AnyStride> struct Matrices : Argument {
   Step stride2;
   constexpr Matrices(T* x, int32_t s0, int32_t s1, Step s2) : pointer(x), stride0(s0), stride1(s1), stride2(s2) {}
   constexpr bool null() const { return pointer == nullptr; }
-  constexpr bool badStride() const {
-    return isBadStride<T>(stride0) || isBadStride<T>(stride1) ||
-           isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
+  constexpr bool badObjectStride() const { return isBadStride<T>(stride0); }
+  constexpr bool badElementStride() const {
+    return isBadStride<T>(stride1) || isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
   }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
   template <class S> constexpr Matrices<T, S> forKernel() const {
@@ -318,7 +336,7 @@ template <class T, class Stride = AnyStride> struct MatricesL : Argument {
   constexpr MatricesL(T* const* x, int32_t bytes, int32_t s1, Step s2)
       : list(x), shift(bytes), stride1(s1), stride2(s2) {}
   constexpr bool null() const { return list == nullptr; }
-  constexpr bool badStride() const {
+  constexpr bool badElementStride() const {
     return isBadStride<T>(stride1) || isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
   }
   constexpr bool badShift() const { return isBadShift<T>(shift); }
@@ -348,7 +366,7 @@ template <class T> struct MatricesP : Argument {
   int32_t stride0;
   constexpr MatricesP(T* const* x, int64_t bytes, int32_t s0) : list(x), offset(bytes), stride0(s0) {}
   constexpr bool null() const { return list == nullptr; }
-  constexpr bool badStride() const { return isBadStride<T>(stride0); }
+  constexpr bool badObjectStride() const { return isBadStride<T>(stride0); }
   constexpr bool badShift() const { return isBadShift<T>(static_cast<int32_t>(offset)); }
   template <class> constexpr MatricesP forKernel() const { return *this; }
   constexpr MatricesP advanced(const Share& share) const { return {list, offset + share.first * stride0, stride0}; }
@@ -369,7 +387,9 @@ template <class T, class Stride = AnyStride> struct Vector : Argument {
   Step stride2;
   constexpr Vector(T* x, Step s2) : pointer(x), stride2(s2) {}
   constexpr bool null() const { return pointer == nullptr; }
-  constexpr bool badStride() const { return isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2))); }
+  constexpr bool badElementStride() const {
+    return isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
+  }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
   template <class S> constexpr Vector<T, S> forKernel() const {
     if constexpr (std::is_same_v<S, UnitStride>)
@@ -409,8 +429,9 @@ template <class T, class Stride = AnyStride> struct Vectors : Argument {
   Step stride2;
   constexpr Vectors(T* x, int32_t s0, Step s2) : pointer(x), stride0(s0), stride2(s2) {}
   constexpr bool null() const { return pointer == nullptr; }
-  constexpr bool badStride() const {
-    return isBadStride<T>(stride0) || isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
+  constexpr bool badObjectStride() const { return isBadStride<T>(stride0); }
+  constexpr bool badElementStride() const {
+    return isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
   }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
   template <class S> constexpr Vectors<T, S> forKernel() const {
@@ -441,7 +462,9 @@ template <class T, class Stride = AnyStride> struct VectorsL : Argument {
   Step stride2;
   constexpr VectorsL(T* const* x, int32_t bytes, Step s2) : list(x), shift(bytes), stride2(s2) {}
   constexpr bool null() const { return list == nullptr; }
-  constexpr bool badStride() const { return isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2))); }
+  constexpr bool badElementStride() const {
+    return isBadStride<T>(static_cast<int32_t>(static_cast<int64_t>(stride2)));
+  }
   constexpr bool badShift() const { return isBadShift<T>(shift); }
   constexpr bool unit() const { return stride2 == static_cast<int64_t>(sizeof(T)); }
   template <class S> constexpr VectorsL<T, S> forKernel() const {
@@ -468,7 +491,7 @@ template <class T> struct VectorsP : Argument {
   int32_t stride0;
   constexpr VectorsP(T* const* x, int64_t bytes, int32_t s0) : list(x), offset(bytes), stride0(s0) {}
   constexpr bool null() const { return list == nullptr; }
-  constexpr bool badStride() const { return isBadStride<T>(stride0); }
+  constexpr bool badObjectStride() const { return isBadStride<T>(stride0); }
   constexpr bool badShift() const { return isBadShift<T>(static_cast<int32_t>(offset)); }
   template <class> constexpr VectorsP forKernel() const { return *this; }
   constexpr VectorsP advanced(const Share& share) const { return {list, offset + share.first * stride0, stride0}; }
@@ -484,7 +507,7 @@ template <class T> struct Constants : Argument {
   int32_t stride0;
   constexpr Constants(T* x, int32_t s0) : pointer(x), stride0(s0) {}
   constexpr bool null() const { return pointer == nullptr; }
-  constexpr bool badStride() const { return isBadStride<T>(stride0); }
+  constexpr bool badObjectStride() const { return isBadStride<T>(stride0); }
   template <class> constexpr Constants forKernel() const { return *this; }
   Constants advanced(const Share& share) const {
     return {reinterpret_cast<T*>(reinterpret_cast<Byte<T>*>(pointer) + share.first * stride0), stride0};
@@ -521,6 +544,9 @@ template <class Operand> struct Transposed : Operand {
   ZELM_INLINE auto object(int64_t k, int64_t rowLength) const { return Operand::object(k, rowLength).transposed(); }
 };
 
+// The operand as a kernel for unit stride2 takes it.
+template <class Operand> using UnitOf = decltype(std::declval<const Operand&>().template forKernel<UnitStride>());
+
 template <class> constexpr bool isTransposed = false;
 template <class Operand> constexpr bool isTransposed<Transposed<Operand>> = true;
 
@@ -530,6 +556,21 @@ template <class Operand> ZELM_INLINE const auto& asStored(const Operand& x) {
     return x.stored();
   else
     return x;
+}
+
+// Whether the elements of a vector operand are known to be neighbours.
+template <class Operand> constexpr bool hasUnitRows = decltype(std::declval<const Operand&>().object(0))::unitRows;
+
+// Vectors in the standard layout with unit strides: can they have no gaps at all? Have they, with n elements each? A
+// single vector has none.
+template <class> constexpr bool isRun = false;
+template <class T> constexpr bool isRun<Vector<T, UnitStride>> = true;
+template <class T> constexpr bool isRun<Vectors<T, UnitStride>> = true;
+template <class Operand> ZELM_INLINE bool isPackedRun(const Operand& x, int32_t n) {
+  if constexpr (Operand::isArray)
+    return x.packed(n);
+  else
+    return true;
 }
 
 constexpr int smaller(int a, int b) {

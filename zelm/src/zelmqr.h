@@ -8,82 +8,12 @@
 #pragma once
 
 #include "zelmblock.h"
-#include "zelmframe.h"
-
-// clang-format off
-#define QR_FACTOR(V, T, S, D)    V##_##S(src, const T), V##_BUFFER(buffer, T, height), V##_##D(dst, T), V##_SIZE(width), V##_SIZE(height)
-#define QR_FACTOR_M_S(V, T)      QR_FACTOR(V, T, M_S, M_S)
-#define QR_FACTOR_M_P(V, T)      QR_FACTOR(V, T, M_P, M_P)
-#define QR_FACTOR_MA_S(V, T)     QR_FACTOR(V, T, MA_S, MA_S), V##_COUNT
-#define QR_FACTOR_MA_L(V, T)     QR_FACTOR(V, T, MA_L, MA_L), V##_COUNT
-#define QR_FACTOR_MA_P(V, T)     QR_FACTOR(V, T, MA_P, MA_P), V##_COUNT
-
-#define QR_SOLVE(V, T, M, B, X)  V##_##M(src1, const T), V##_BUFFER(buffer, T, height), V##_##B(src2, const T), V##_##X(dst, T), V##_SIZE(width), V##_SIZE(height)
-#define QR_SOLVE_MV_S(V, T)      QR_SOLVE(V, T, M_S, V_S, V_S)
-#define QR_SOLVE_MV_P(V, T)      QR_SOLVE(V, T, M_P, V_P, V_P)
-#define QR_SOLVE_MVA_S(V, T)     QR_SOLVE(V, T, M_S, VA_S, VA_S), V##_COUNT
-#define QR_SOLVE_MVA_L(V, T)     QR_SOLVE(V, T, M_S, VA_L, VA_L), V##_COUNT
-#define QR_SOLVE_MVA_P(V, T)     QR_SOLVE(V, T, M_P, VA_P, VA_P), V##_COUNT
-#define QR_SOLVE_MAVA_S(V, T)    QR_SOLVE(V, T, MA_S, VA_S, VA_S), V##_COUNT
-#define QR_SOLVE_MAVA_L(V, T)    QR_SOLVE(V, T, MA_L, VA_L, VA_L), V##_COUNT
-#define QR_SOLVE_MAVA_P(V, T)    QR_SOLVE(V, T, MA_P, VA_P, VA_P), V##_COUNT
-// clang-format on
+#include "zelmqrsignature.h"
 
 namespace zelm {
 
-// The agreement of the sizes, which follow the operands: at least as many rows as columns.
-struct NotWider {
-  template <class... Rest> static bool agree(const Size& width, const Size& height, const Rest&...) {
-    return width <= height;
-  }
-  template <class Operand, class... Rest> static bool agree(const Operand&, const Rest&... rest) {
-    return agree(rest...);
-  }
-};
-
-using N_Z_S_Shape = N_Z_S_M<NotWider>;
-using N_Z_H_Shape = N_Z_H_M<NotWider>;
-using N_C_Z_S_Shape = N_C_Z_S_M<NotWider>;
-using N_C_Z_S_H_Shape = N_C_Z_S_H_M<NotWider>;
-
 // ---------------------------------------------------------------------------------------------------------------------
 // Arithmetic, on an object or on a block of them
-
-// Lanes or, as the caller's scratch, elements at any address; the two vectors
-// of a pair each in its own place.
-template <class L> struct Column {
-  L* element;
-  ZELM_INLINE L load(int i) const {
-    L value;
-    std::memcpy(&value, element + i, sizeof value);
-    return value;
-  }
-  ZELM_INLINE void store(int i, L value) const { std::memcpy(element + i, &value, sizeof value); }
-};
-template <class V> struct Column<Pair<V>> {
-  V* low;
-  V* high;
-  ZELM_INLINE Pair<V> load(int i) const { return {low[i], high[i]}; }
-  ZELM_INLINE void store(int i, const Pair<V>& value) const {
-    low[i] = value.low;
-    high[i] = value.high;
-  }
-};
-
-// A dense matrix, row after row.
-template <class L, class Width> struct Rectangle {
-  Column<L> elements;
-  Width width;
-  ZELM_INLINE L load(int i, int j) const { return elements.load(i * width + j); }
-  ZELM_INLINE void store(int i, int j, const L& value) const { elements.store(i * width + j, value); }
-};
-
-template <class Width, class Height> ZELM_INLINE constexpr auto product(Width width, Height height) {
-  if constexpr (isFixed<Width> && isFixed<Height>)
-    return Fixed<width * height>{};
-  else
-    return width * height;
-}
 
 // The last column of a square matrix has no reflection, and so no test.
 template <class Width, class Height> ZELM_INLINE constexpr auto qrSteps(Width width, Height height) {
@@ -94,11 +24,8 @@ template <class Width, class Height> ZELM_INLINE constexpr auto qrSteps(Width wi
 }
 
 // +norm if head is greater than 0, else -norm, which a NaN takes too.
-template <class L> ZELM_INLINE L signedNorm(L head, L norm) {
-  return head > L{} ? norm : -norm;
-}
-template <class V> ZELM_INLINE Pair<V> signedNorm(const Pair<V>& head, const Pair<V>& norm) {
-  return {signedNorm(head.low, norm.low), signedNorm(head.high, norm.high)};
+template <class L> ZELM_INLINE L signedNorm(const L& head, const L& norm) {
+  return select(greater(head, L{}), norm, -norm);
 }
 
 // The limit of the squared norm; exact in both types, so that the comparison in
@@ -117,21 +44,21 @@ ZELM_INLINE bool qrReduce(const Matrix& a, const Vector& v, Width width, Height 
       const L x = a.load(i, k);
       norm2 = norm2 + x * x;
     });
-    if (anyLane(everyLane<L>(qrLimit<T>) > norm2))
+    if (any(greater(splat<L>(qrLimit<T>), norm2)))
       return false;
     // The correctly rounded root, which is also the root in double rounded
     // to the element type.
     const L norm = squareRoot(norm2);
     const L head = a.load(k, k);
     const L p = head + signedNorm(head, norm);
-    const L r = 1 / p;
-    L w = everyLane<L>(1);
+    const L r = splat<L>(1) / p;
+    L w = splat<L>(1);
     ascending(next(k), height, [&](auto i) ZELM_BODY {
       const L x = a.load(i, k) * r;
       v.store(i, x);
       w = w + x * x;
     });
-    const L beta = -2 / w;
+    const L beta = splat<L>(-2) / w;
     L s = head;
     ascending(next(k), height, [&](auto i) ZELM_BODY { s = s + a.load(i, k) * v.load(i); });
     a.store(k, k, s * beta + head);
@@ -152,7 +79,7 @@ ZELM_INLINE bool qrReduce(const Matrix& a, const Vector& v, Width width, Height 
 // The denominator of beta(k).
 template <class L, class Matrix, class Index, class Height>
 ZELM_INLINE L qrDenominator(const Matrix& a, Index k, Height height) {
-  L w = everyLane<L>(1);
+  L w = splat<L>(1);
   ascending(next(k), height, [&](auto i) ZELM_BODY {
     const L x = a.load(i, k);
     w = w + x * x;
@@ -169,7 +96,7 @@ ZELM_INLINE void qrSolve(const Matrix& a, const Denominator& denominator, const 
     const L top = c.load(k);
     L s = top;
     ascending(next(k), height, [&](auto i) ZELM_BODY { s = s + c.load(i) * a.load(i, k); });
-    s = s * (-2 / denominator(k));
+    s = s * (splat<L>(-2) / denominator(k));
     c.store(k, top + s);
     ascending(next(k), height, [&](auto i) ZELM_BODY { c.store(i, a.load(i, k) * s + c.load(i)); });
   });
@@ -264,19 +191,6 @@ template <class V> ZELM_NOINLINE void qrSolveOne(QrScratch<V>& low, QrScratch<V>
   });
 }
 
-template <class Objects, class L, class Width, class Height>
-ZELM_INLINE void loadElements(const Objects& objects, L* lanes, Width width, Height height) {
-  if (objects.gapless(width))
-    return objects.load(0, 0, product(width, height), lanes);
-  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.load(i, 0, width, lanes + i * width); });
-}
-template <class Objects, class L, class Width, class Height>
-ZELM_INLINE void storeElements(const Objects& objects, const L* lanes, Width width, Height height) {
-  if (objects.gapless(width))
-    return objects.store(0, 0, product(width, height), lanes);
-  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.store(i, 0, width, lanes + i * width); });
-}
-
 // Calls of their own: a shape that the compiler knows, if the lanes are neighbours or come from neighbouring elements.
 template <class Objects, class L>
 ZELM_NOINLINE void loadRectangle(const Objects& objects, L* lanes, int width, int height) {
@@ -296,8 +210,6 @@ ZELM_NOINLINE void storeRectangle(const Objects& objects, const L* lanes, int wi
 // ---------------------------------------------------------------------------------------------------------------------
 // Decomposition
 
-struct AnyShape {};
-
 template <class T, class Source, class Result>
 ZELM_INLINE ZelStatus qrFactor(const Source& src, T* buffer, const Result& dst, int32_t width, int32_t height) {
   for (int32_t i = 0; i < height; ++i)
@@ -309,7 +221,7 @@ ZELM_INLINE ZelStatus qrFactor(const Source& src, T* buffer, const Result& dst, 
 
 // Single objects.
 template <class T, class Source, class Result>
-ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
+ZELM_INLINE ZelStatus qrFactors(const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
                                 int32_t height) {
   return qrFactor<T>(src.object(0, width), buffer.pointer, dst.object(0, width), width, height);
 }
@@ -334,7 +246,7 @@ ZELM_NOINLINE bool qrFactorStraight(const Source& src, const Result& dst, Width 
 
 // Batches.
 template <class T, class Source, class Result>
-ZELM_INLINE ZelStatus qrFactors(AnyShape, const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
+ZELM_INLINE ZelStatus qrFactors(const Source& src, const Buffer<T>& buffer, const Result& dst, int32_t width,
                                 int32_t height, int32_t count) {
   const auto single = [=](int64_t k) ZELM_NOINLINE {
     return qrFactor<T>(src.object(k, width), buffer.pointer, dst.object(k, width), width, height);
@@ -400,8 +312,8 @@ ZELM_INLINE void qrSolution(const Matrix& a, T* buffer, const Right& right, cons
 
 // Single objects.
 template <class T, class Matrix, class Right, class Result>
-ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
-                                  const Result& dst, int32_t width, int32_t height) {
+ZELM_INLINE ZelStatus qrSolutions(const Matrix& src1, const Buffer<T>& buffer, const Right& src2, const Result& dst,
+                                  int32_t width, int32_t height) {
   qrSolution<T>(src1.object(0, width), buffer.pointer, src2.object(0), dst.object(0), width, height);
   return zelStatusOk;
 }
@@ -426,8 +338,8 @@ ZELM_NOINLINE void qrSolveStraight(const Matrix& src1, const Right& src2, const 
 
 // Batches.
 template <class T, class Matrix, class Right, class Result>
-ZELM_INLINE ZelStatus qrSolutions(AnyShape, const Matrix& src1, const Buffer<T>& buffer, const Right& src2,
-                                  const Result& dst, int32_t width, int32_t height, int32_t count) {
+ZELM_INLINE ZelStatus qrSolutions(const Matrix& src1, const Buffer<T>& buffer, const Right& src2, const Result& dst,
+                                  int32_t width, int32_t height, int32_t count) {
   constexpr bool each = Matrix::isArray;
   const auto single = [=](int64_t k) ZELM_NOINLINE {
     qrSolution<T>(src1.object(k, width), buffer.pointer, src2.object(k), dst.object(k), width, height);

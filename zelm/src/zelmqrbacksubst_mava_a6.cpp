@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mava_32f,   QR_SOLVE_MAVA_S, UNIT, float, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mava_32f_L, QR_SOLVE_MAVA_L, UNIT, float, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mava_32f,   QR_SOLVE_MAVA, S, UNIT, float, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mava_32f_L, QR_SOLVE_MAVA, L, UNIT, float, qrSolutions)
 // clang-format on

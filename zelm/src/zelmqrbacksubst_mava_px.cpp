@@ -3,10 +3,10 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mava_32f_S2,  QR_SOLVE_MAVA_S, ANY, float,  qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mava_64f_S2,  QR_SOLVE_MAVA_S, ANY, double, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mava_32f_LS2, QR_SOLVE_MAVA_L, ANY, float,  qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mava_64f_LS2, QR_SOLVE_MAVA_L, ANY, double, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mava_32f_P,   QR_SOLVE_MAVA_P, ANY, float,  qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mava_64f_P,   QR_SOLVE_MAVA_P, ANY, double, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mava_32f_S2,  QR_SOLVE_MAVA, S, ANY, float,  qrSolutions)
+KERNEL(ownzelmQRBackSubst_mava_64f_S2,  QR_SOLVE_MAVA, S, ANY, double, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mava_32f_LS2, QR_SOLVE_MAVA, L, ANY, float,  qrSolutions)
+KERNEL(ownzelmQRBackSubst_mava_64f_LS2, QR_SOLVE_MAVA, L, ANY, double, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mava_32f_P,   QR_SOLVE_MAVA, P, ANY, float,  qrSolutions)
+KERNEL(ownzelmQRBackSubst_mava_64f_P,   QR_SOLVE_MAVA, P, ANY, double, qrSolutions)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mava_64f,   QR_SOLVE_MAVA_S, UNIT, double, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mava_64f_L, QR_SOLVE_MAVA_L, UNIT, double, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mava_64f,   QR_SOLVE_MAVA, S, UNIT, double, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mava_64f_L, QR_SOLVE_MAVA, L, UNIT, double, qrSolutions)
 // clang-format on

@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mv_32f, QR_SOLVE_MV_S, UNIT, float, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mv_32f, QR_SOLVE_MV, S, UNIT, float, qrSolutions)
 // clang-format on

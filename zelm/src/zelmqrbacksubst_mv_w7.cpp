@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mv_64f, QR_SOLVE_MV_S, UNIT, double, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mv_64f, QR_SOLVE_MV, S, UNIT, double, qrSolutions)
 // clang-format on

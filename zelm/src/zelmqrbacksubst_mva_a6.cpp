@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mva_32f,   QR_SOLVE_MVA_S, UNIT, float, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mva_32f_L, QR_SOLVE_MVA_L, UNIT, float, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mva_32f,   QR_SOLVE_MVA, S, UNIT, float, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mva_32f_L, QR_SOLVE_MVA, L, UNIT, float, qrSolutions)
 // clang-format on

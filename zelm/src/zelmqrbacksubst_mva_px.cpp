@@ -3,10 +3,10 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mva_32f_S2,  QR_SOLVE_MVA_S, ANY, float,  qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mva_64f_S2,  QR_SOLVE_MVA_S, ANY, double, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mva_32f_LS2, QR_SOLVE_MVA_L, ANY, float,  qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mva_64f_LS2, QR_SOLVE_MVA_L, ANY, double, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mva_32f_P,   QR_SOLVE_MVA_P, ANY, float,  qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mva_64f_P,   QR_SOLVE_MVA_P, ANY, double, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mva_32f_S2,  QR_SOLVE_MVA, S, ANY, float,  qrSolutions)
+KERNEL(ownzelmQRBackSubst_mva_64f_S2,  QR_SOLVE_MVA, S, ANY, double, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mva_32f_LS2, QR_SOLVE_MVA, L, ANY, float,  qrSolutions)
+KERNEL(ownzelmQRBackSubst_mva_64f_LS2, QR_SOLVE_MVA, L, ANY, double, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mva_32f_P,   QR_SOLVE_MVA, P, ANY, float,  qrSolutions)
+KERNEL(ownzelmQRBackSubst_mva_64f_P,   QR_SOLVE_MVA, P, ANY, double, qrSolutions)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRBackSubst_mva_64f,   QR_SOLVE_MVA_S, UNIT, double, qrSolutions, AnyShape)
-KERNEL(ownzelmQRBackSubst_mva_64f_L, QR_SOLVE_MVA_L, UNIT, double, qrSolutions, AnyShape)
+KERNEL(ownzelmQRBackSubst_mva_64f,   QR_SOLVE_MVA, S, UNIT, double, qrSolutions)
+KERNEL(ownzelmQRBackSubst_mva_64f_L, QR_SOLVE_MVA, L, UNIT, double, qrSolutions)
 // clang-format on

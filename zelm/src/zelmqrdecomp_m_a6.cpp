@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRDecomp_m_32f, QR_FACTOR_M_S, UNIT, float, qrFactors, AnyShape)
+KERNEL(ownzelmQRDecomp_m_32f, QR_FACTOR_M, S, UNIT, float, qrFactors)
 // clang-format on

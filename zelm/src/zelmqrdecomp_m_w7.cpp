@@ -3,5 +3,5 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRDecomp_m_64f, QR_FACTOR_M_S, UNIT, double, qrFactors, AnyShape)
+KERNEL(ownzelmQRDecomp_m_64f, QR_FACTOR_M, S, UNIT, double, qrFactors)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRDecomp_ma_32f,   QR_FACTOR_MA_S, UNIT, float, qrFactors, AnyShape)
-KERNEL(ownzelmQRDecomp_ma_32f_L, QR_FACTOR_MA_L, UNIT, float, qrFactors, AnyShape)
+KERNEL(ownzelmQRDecomp_ma_32f,   QR_FACTOR_MA, S, UNIT, float, qrFactors)
+KERNEL(ownzelmQRDecomp_ma_32f_L, QR_FACTOR_MA, L, UNIT, float, qrFactors)
 // clang-format on

@@ -3,6 +3,6 @@
 
 // clang-format off
 //     kernel  arguments strides type  body  straight-line shapes
-KERNEL(ownzelmQRDecomp_ma_64f,   QR_FACTOR_MA_S, UNIT, double, qrFactors, AnyShape)
-KERNEL(ownzelmQRDecomp_ma_64f_L, QR_FACTOR_MA_L, UNIT, double, qrFactors, AnyShape)
+KERNEL(ownzelmQRDecomp_ma_64f,   QR_FACTOR_MA, S, UNIT, double, qrFactors)
+KERNEL(ownzelmQRDecomp_ma_64f_L, QR_FACTOR_MA, L, UNIT, double, qrFactors)
 // clang-format on

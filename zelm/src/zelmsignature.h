@@ -1,11 +1,11 @@
-// Signatures: a form's argument list in a layout, written once.
+// Signatures: a form's argument list, written once, with the layout as a parameter.
 //
-// A signature such as MAM_S(V, T) is a list of tokens, each an operand's kind and layout with its name. The visitor V
-// says what becomes of a token:
+// A signature such as MAM(W, Y, E) is a list of tokens, each an operand's kind with its name; E is the element type, Y
+// the layout, S, L or P. W says what becomes of a token:
 //   PARAM   the parameters of the exported function: const float* src1, int32_t src1Stride0, ...
 //   ARG     the arguments made of them: Matrices<const float>(src1, src1Stride0, ...)
-//   ANY     the parameters of a front or a kernel that takes any stride2: const Matrices<const float, AnyStride>& src1
-//   UNIT    the parameters of a kernel for unit stride2: const Matrices<const float, UnitStride>& src1
+//   ANY     the parameters of a front or a kernel that takes any stride2: const Matrices<const float>& src1
+//   UNIT    the parameters of a kernel for unit stride2: const UnitOf<Matrices<const float>>& src1
 //   NAME    the bare names: src1
 //   OBJECT  the arguments of a kernel for single objects, made of object k: src1.single(k)
 #pragma once
@@ -13,152 +13,102 @@
 #include "zelmoperand.h"
 
 // clang-format off
-#define PARAM_M_S(x, T)  T* x, int32_t x##Stride1, int32_t x##Stride2
-#define PARAM_M_P(x, T)  T* const* x, int32_t x##Shift
-#define PARAM_MA_S(x, T) T* x, int32_t x##Stride0, int32_t x##Stride1, int32_t x##Stride2
-#define PARAM_MA_L(x, T) T* const* x, int32_t x##Shift, int32_t x##Stride1, int32_t x##Stride2
-#define PARAM_MA_P(x, T) T* const* x, int32_t x##Shift, int32_t x##Stride0
-#define PARAM_T_S(x, T)  PARAM_M_S(x, T)
-#define PARAM_T_P(x, T)  PARAM_M_P(x, T)
-#define PARAM_TA_S(x, T) PARAM_MA_S(x, T)
-#define PARAM_TA_L(x, T) PARAM_MA_L(x, T)
-#define PARAM_TA_P(x, T) PARAM_MA_P(x, T)
-#define PARAM_V_S(x, T)  T* x, int32_t x##Stride2
-#define PARAM_V_P(x, T)  T* const* x, int32_t x##Shift
-#define PARAM_VA_S(x, T) T* x, int32_t x##Stride0, int32_t x##Stride2
-#define PARAM_VA_L(x, T) T* const* x, int32_t x##Shift, int32_t x##Stride2
-#define PARAM_VA_P(x, T) T* const* x, int32_t x##Shift, int32_t x##Stride0
-#define PARAM_CA_S(x, T) T* x, int32_t x##Stride0
-#define PARAM_CA_L(x, T) T* const* x, int32_t x##Shift
-#define PARAM_C(x, T)    T x
-#define PARAM_SIZE(x)    int32_t x
-#define PARAM_COUNT      int32_t count
-#define PARAM_PLAIN(x, T, each)   T* x
-#define PARAM_BUFFER(x, T, size)  T* x
+// An operand: its kind and layout, its C++ type, the parameters that describe it, the names of these.
+#define ZELM_M_S(V, x, T)   V##_OPERAND(x, zelm::Matrix<T>,    (T* x, int32_t x##Stride1, int32_t x##Stride2), (x, x##Stride1, x##Stride2))
+#define ZELM_M_P(V, x, T)   V##_OPERAND(x, zelm::MatrixP<T>,   (T* const* x, int32_t x##Shift), (x, x##Shift))
+#define ZELM_MA_S(V, x, T)  V##_OPERAND(x, zelm::Matrices<T>,  (T* x, int32_t x##Stride0, int32_t x##Stride1, int32_t x##Stride2), (x, x##Stride0, x##Stride1, x##Stride2))
+#define ZELM_MA_L(V, x, T)  V##_OPERAND(x, zelm::MatricesL<T>, (T* const* x, int32_t x##Shift, int32_t x##Stride1, int32_t x##Stride2), (x, x##Shift, x##Stride1, x##Stride2))
+#define ZELM_MA_P(V, x, T)  V##_OPERAND(x, zelm::MatricesP<T>, (T* const* x, int32_t x##Shift, int32_t x##Stride0), (x, x##Shift, x##Stride0))
+#define ZELM_T_S(V, x, T)   V##_OPERAND(x, zelm::Transposed<zelm::Matrix<T>>,    (T* x, int32_t x##Stride1, int32_t x##Stride2), (x, x##Stride1, x##Stride2))
+#define ZELM_T_P(V, x, T)   V##_OPERAND(x, zelm::Transposed<zelm::MatrixP<T>>,   (T* const* x, int32_t x##Shift), (x, x##Shift))
+#define ZELM_TA_S(V, x, T)  V##_OPERAND(x, zelm::Transposed<zelm::Matrices<T>>,  (T* x, int32_t x##Stride0, int32_t x##Stride1, int32_t x##Stride2), (x, x##Stride0, x##Stride1, x##Stride2))
+#define ZELM_TA_L(V, x, T)  V##_OPERAND(x, zelm::Transposed<zelm::MatricesL<T>>, (T* const* x, int32_t x##Shift, int32_t x##Stride1, int32_t x##Stride2), (x, x##Shift, x##Stride1, x##Stride2))
+#define ZELM_TA_P(V, x, T)  V##_OPERAND(x, zelm::Transposed<zelm::MatricesP<T>>, (T* const* x, int32_t x##Shift, int32_t x##Stride0), (x, x##Shift, x##Stride0))
+#define ZELM_V_S(V, x, T)   V##_OPERAND(x, zelm::Vector<T>,     (T* x, int32_t x##Stride2), (x, x##Stride2))
+#define ZELM_V_P(V, x, T)   V##_OPERAND(x, zelm::VectorP<T>,    (T* const* x, int32_t x##Shift), (x, x##Shift))
+#define ZELM_VA_S(V, x, T)  V##_OPERAND(x, zelm::Vectors<T>,    (T* x, int32_t x##Stride0, int32_t x##Stride2), (x, x##Stride0, x##Stride2))
+#define ZELM_VA_L(V, x, T)  V##_OPERAND(x, zelm::VectorsL<T>,   (T* const* x, int32_t x##Shift, int32_t x##Stride2), (x, x##Shift, x##Stride2))
+#define ZELM_VA_P(V, x, T)  V##_OPERAND(x, zelm::VectorsP<T>,   (T* const* x, int32_t x##Shift, int32_t x##Stride0), (x, x##Shift, x##Stride0))
+#define ZELM_CA_S(V, x, T)  V##_OPERAND(x, zelm::Constants<T>,  (T* x, int32_t x##Stride0), (x, x##Stride0))
+#define ZELM_CA_L(V, x, T)  V##_OPERAND(x, zelm::ConstantsL<T>, (T* const* x, int32_t x##Shift), (x, x##Shift))
+// What a layout has no description of its own for: single operands in lists, constants by their element pointers.
+#define ZELM_M_L(V, x, T)   ZELM_M_S(V, x, T)
+#define ZELM_T_L(V, x, T)   ZELM_T_S(V, x, T)
+#define ZELM_V_L(V, x, T)   ZELM_V_S(V, x, T)
+#define ZELM_CA_P(V, x, T)  ZELM_CA_S(V, x, T)
+// The same in every layout: a constant by value, a size, the count, a plain pointer with `each` elements for each object,
+// the scratch of `size` elements for one object.
+#define ZELM_C(V, x, T)             V##_VALUE(x, zelm::Constant<T>, T x, (x))
+#define ZELM_C_S(V, x, T)           ZELM_C(V, x, T)
+#define ZELM_C_L(V, x, T)           ZELM_C(V, x, T)
+#define ZELM_C_P(V, x, T)           ZELM_C(V, x, T)
+#define ZELM_SIZE(V, x)             V##_VALUE(x, zelm::Size, int32_t x, (x))
+#define ZELM_COUNT(V)               V##_VALUE(count, zelm::Count, int32_t count, (count))
+#define ZELM_PLAIN(V, x, T, each)   V##_PLAIN(x, zelm::Plain<T>, T* x, (x, each))
+#define ZELM_BUFFER(V, x, T, size)  V##_VALUE(x, zelm::Buffer<T>, T* x, (x, size))
 
-#define ARG_M_S(x, T)  zelm::Matrix<T>(x, x##Stride1, x##Stride2)
-#define ARG_M_P(x, T)  zelm::MatrixP<T>(x, x##Shift)
-#define ARG_MA_S(x, T) zelm::Matrices<T>(x, x##Stride0, x##Stride1, x##Stride2)
-#define ARG_MA_L(x, T) zelm::MatricesL<T>(x, x##Shift, x##Stride1, x##Stride2)
-#define ARG_MA_P(x, T) zelm::MatricesP<T>(x, x##Shift, x##Stride0)
-#define ARG_T_S(x, T)  zelm::Transposed<zelm::Matrix<T>>(x, x##Stride1, x##Stride2)
-#define ARG_T_P(x, T)  zelm::Transposed<zelm::MatrixP<T>>(x, x##Shift)
-#define ARG_TA_S(x, T) zelm::Transposed<zelm::Matrices<T>>(x, x##Stride0, x##Stride1, x##Stride2)
-#define ARG_TA_L(x, T) zelm::Transposed<zelm::MatricesL<T>>(x, x##Shift, x##Stride1, x##Stride2)
-#define ARG_TA_P(x, T) zelm::Transposed<zelm::MatricesP<T>>(x, x##Shift, x##Stride0)
-#define ARG_V_S(x, T)  zelm::Vector<T>(x, x##Stride2)
-#define ARG_V_P(x, T)  zelm::VectorP<T>(x, x##Shift)
-#define ARG_VA_S(x, T) zelm::Vectors<T>(x, x##Stride0, x##Stride2)
-#define ARG_VA_L(x, T) zelm::VectorsL<T>(x, x##Shift, x##Stride2)
-#define ARG_VA_P(x, T) zelm::VectorsP<T>(x, x##Shift, x##Stride0)
-#define ARG_CA_S(x, T) zelm::Constants<T>(x, x##Stride0)
-#define ARG_CA_L(x, T) zelm::ConstantsL<T>(x, x##Shift)
-#define ARG_C(x, T)    zelm::Constant<T>(x)
-#define ARG_SIZE(x)    zelm::Size(x)
-#define ARG_COUNT      zelm::Count(count)
-#define ARG_PLAIN(x, T, each)   zelm::Plain<T>(x, each)
-#define ARG_BUFFER(x, T, size)  zelm::Buffer<T>(x, size)
-
-#define ANY_M_S(x, T)  const zelm::Matrix<T, zelm::AnyStride>& x
-#define ANY_M_P(x, T)  const zelm::MatrixP<T>& x
-#define ANY_MA_S(x, T) const zelm::Matrices<T, zelm::AnyStride>& x
-#define ANY_MA_L(x, T) const zelm::MatricesL<T, zelm::AnyStride>& x
-#define ANY_MA_P(x, T) const zelm::MatricesP<T>& x
-#define ANY_T_S(x, T)  const zelm::Transposed<zelm::Matrix<T, zelm::AnyStride>>& x
-#define ANY_T_P(x, T)  const zelm::Transposed<zelm::MatrixP<T>>& x
-#define ANY_TA_S(x, T) const zelm::Transposed<zelm::Matrices<T, zelm::AnyStride>>& x
-#define ANY_TA_L(x, T) const zelm::Transposed<zelm::MatricesL<T, zelm::AnyStride>>& x
-#define ANY_TA_P(x, T) const zelm::Transposed<zelm::MatricesP<T>>& x
-#define ANY_V_S(x, T)  const zelm::Vector<T, zelm::AnyStride>& x
-#define ANY_V_P(x, T)  const zelm::VectorP<T>& x
-#define ANY_VA_S(x, T) const zelm::Vectors<T, zelm::AnyStride>& x
-#define ANY_VA_L(x, T) const zelm::VectorsL<T, zelm::AnyStride>& x
-#define ANY_VA_P(x, T) const zelm::VectorsP<T>& x
-#define ANY_CA_S(x, T) const zelm::Constants<T>& x
-#define ANY_CA_L(x, T) const zelm::ConstantsL<T>& x
-#define ANY_C(x, T)    zelm::Constant<T> x
-#define ANY_SIZE(x)    zelm::Size x
-#define ANY_COUNT      zelm::Count count
-#define ANY_PLAIN(x, T, each)   zelm::Plain<T> x
-#define ANY_BUFFER(x, T, size)  zelm::Buffer<T> x
-
-#define UNIT_M_S(x, T)  const zelm::Matrix<T, zelm::UnitStride>& x
-#define UNIT_MA_S(x, T) const zelm::Matrices<T, zelm::UnitStride>& x
-#define UNIT_MA_L(x, T) const zelm::MatricesL<T, zelm::UnitStride>& x
-#define UNIT_T_S(x, T)  const zelm::Transposed<zelm::Matrix<T, zelm::UnitStride>>& x
-#define UNIT_TA_S(x, T) const zelm::Transposed<zelm::Matrices<T, zelm::UnitStride>>& x
-#define UNIT_TA_L(x, T) const zelm::Transposed<zelm::MatricesL<T, zelm::UnitStride>>& x
-#define UNIT_V_S(x, T)  const zelm::Vector<T, zelm::UnitStride>& x
-#define UNIT_VA_S(x, T) const zelm::Vectors<T, zelm::UnitStride>& x
-#define UNIT_VA_L(x, T) const zelm::VectorsL<T, zelm::UnitStride>& x
-#define UNIT_CA_S(x, T) const zelm::Constants<T>& x
-#define UNIT_CA_L(x, T) const zelm::ConstantsL<T>& x
-#define UNIT_C(x, T)    zelm::Constant<T> x
-#define UNIT_SIZE(x)    zelm::Size x
-#define UNIT_COUNT      zelm::Count count
-#define UNIT_PLAIN(x, T, each)   zelm::Plain<T> x
-#define UNIT_BUFFER(x, T, size)  zelm::Buffer<T> x
-
-#define NAME_M_S(x, T)  x
-#define NAME_M_P(x, T)  x
-#define NAME_MA_S(x, T) x
-#define NAME_MA_L(x, T) x
-#define NAME_MA_P(x, T) x
-#define NAME_T_S(x, T)  x
-#define NAME_T_P(x, T)  x
-#define NAME_TA_S(x, T) x
-#define NAME_TA_L(x, T) x
-#define NAME_TA_P(x, T) x
-#define NAME_V_S(x, T)  x
-#define NAME_V_P(x, T)  x
-#define NAME_VA_S(x, T) x
-#define NAME_VA_L(x, T) x
-#define NAME_VA_P(x, T) x
-#define NAME_CA_S(x, T) x
-#define NAME_CA_L(x, T) x
-#define NAME_C(x, T)    x
-#define NAME_SIZE(x)    x
-#define NAME_COUNT      count
-#define NAME_PLAIN(x, T, each)   x
-#define NAME_BUFFER(x, T, size)  x
-
-#define OBJECT_M_S(x, T)  x.single(k)
-#define OBJECT_T_S(x, T)  x.single(k)
-#define OBJECT_V_S(x, T)  x.single(k)
-#define OBJECT_C(x, T)    x
-#define OBJECT_SIZE(x)    x
-#define OBJECT_PLAIN(x, T, each)   x.single(k)
-#define OBJECT_BUFFER(x, T, size)  x
+#define ZELM_SPREAD(...)                            __VA_ARGS__
+#define PARAM_OPERAND(x, TYPE, PARAMETERS, NAMES)   ZELM_SPREAD PARAMETERS
+#define PARAM_VALUE(x, TYPE, PARAMETER, NAMES)      PARAMETER
+#define PARAM_PLAIN(x, TYPE, PARAMETER, NAMES)      PARAMETER
+#define ARG_OPERAND(x, TYPE, PARAMETERS, NAMES)     TYPE NAMES
+#define ARG_VALUE(x, TYPE, PARAMETER, NAMES)        TYPE NAMES
+#define ARG_PLAIN(x, TYPE, PARAMETER, NAMES)        TYPE NAMES
+#define ANY_OPERAND(x, TYPE, PARAMETERS, NAMES)     const TYPE& x
+#define ANY_VALUE(x, TYPE, PARAMETER, NAMES)        TYPE x
+#define ANY_PLAIN(x, TYPE, PARAMETER, NAMES)        TYPE x
+#define UNIT_OPERAND(x, TYPE, PARAMETERS, NAMES)    const zelm::UnitOf<TYPE>& x
+#define UNIT_VALUE(x, TYPE, PARAMETER, NAMES)       TYPE x
+#define UNIT_PLAIN(x, TYPE, PARAMETER, NAMES)       TYPE x
+#define NAME_OPERAND(x, TYPE, PARAMETERS, NAMES)    x
+#define NAME_VALUE(x, TYPE, PARAMETER, NAMES)       x
+#define NAME_PLAIN(x, TYPE, PARAMETER, NAMES)       x
+#define OBJECT_OPERAND(x, TYPE, PARAMETERS, NAMES)  x.single(k)
+#define OBJECT_VALUE(x, TYPE, PARAMETER, NAMES)     x
+#define OBJECT_PLAIN(x, TYPE, PARAMETER, NAMES)     x.single(k)
 
 // Two sources and a result of one shape, width by height: the element-wise families.
-#define TWO_MATRICES(V, T, A, B, D)        V##_##A(src1, const T), V##_##B(src2, const T), V##_##D(dst, T), V##_SIZE(width), V##_SIZE(height)
-#define TWO_MATRICES_BATCH(V, T, A, B, D)  TWO_MATRICES(V, T, A, B, D), V##_COUNT
+#define TWO_MATRICES(W, Y, E, A, B, D)  ZELM_##A##_##Y(W, src1, const E), ZELM_##B##_##Y(W, src2, const E), ZELM_##D##_##Y(W, dst, E), ZELM_SIZE(W, width), ZELM_SIZE(W, height)
+#define MM(W, Y, E)    TWO_MATRICES(W, Y, E, M, M, M)
+#define MT(W, Y, E)    TWO_MATRICES(W, Y, E, M, T, M)
+#define TM(W, Y, E)    TWO_MATRICES(W, Y, E, T, M, M)
+#define TT(W, Y, E)    TWO_MATRICES(W, Y, E, T, T, M)
+#define MAM(W, Y, E)   TWO_MATRICES(W, Y, E, MA, M, MA), ZELM_COUNT(W)
+#define MAT(W, Y, E)   TWO_MATRICES(W, Y, E, MA, T, MA), ZELM_COUNT(W)
+#define TAM(W, Y, E)   TWO_MATRICES(W, Y, E, TA, M, MA), ZELM_COUNT(W)
+#define TAT(W, Y, E)   TWO_MATRICES(W, Y, E, TA, T, MA), ZELM_COUNT(W)
+#define MMA(W, Y, E)   TWO_MATRICES(W, Y, E, M, MA, MA), ZELM_COUNT(W)
+#define MTA(W, Y, E)   TWO_MATRICES(W, Y, E, M, TA, MA), ZELM_COUNT(W)
+#define TMA(W, Y, E)   TWO_MATRICES(W, Y, E, T, MA, MA), ZELM_COUNT(W)
+#define TTA(W, Y, E)   TWO_MATRICES(W, Y, E, T, TA, MA), ZELM_COUNT(W)
+#define MAMA(W, Y, E)  TWO_MATRICES(W, Y, E, MA, MA, MA), ZELM_COUNT(W)
+#define MATA(W, Y, E)  TWO_MATRICES(W, Y, E, MA, TA, MA), ZELM_COUNT(W)
+#define TAMA(W, Y, E)  TWO_MATRICES(W, Y, E, TA, MA, MA), ZELM_COUNT(W)
+#define TATA(W, Y, E)  TWO_MATRICES(W, Y, E, TA, TA, MA), ZELM_COUNT(W)
 
-#define MM_S(V, T)    TWO_MATRICES(V, T, M_S, M_S, M_S)
-#define TM_S(V, T)    TWO_MATRICES(V, T, T_S, M_S, M_S)
-#define TT_S(V, T)    TWO_MATRICES(V, T, T_S, T_S, M_S)
-#define MM_P(V, T)    TWO_MATRICES(V, T, M_P, M_P, M_P)
-#define TM_P(V, T)    TWO_MATRICES(V, T, T_P, M_P, M_P)
-#define TT_P(V, T)    TWO_MATRICES(V, T, T_P, T_P, M_P)
-#define MAM_S(V, T)   TWO_MATRICES_BATCH(V, T, MA_S, M_S, MA_S)
-#define MAT_S(V, T)   TWO_MATRICES_BATCH(V, T, MA_S, T_S, MA_S)
-#define TAM_S(V, T)   TWO_MATRICES_BATCH(V, T, TA_S, M_S, MA_S)
-#define TAT_S(V, T)   TWO_MATRICES_BATCH(V, T, TA_S, T_S, MA_S)
-#define MAMA_S(V, T)  TWO_MATRICES_BATCH(V, T, MA_S, MA_S, MA_S)
-#define TAMA_S(V, T)  TWO_MATRICES_BATCH(V, T, TA_S, MA_S, MA_S)
-#define TATA_S(V, T)  TWO_MATRICES_BATCH(V, T, TA_S, TA_S, MA_S)
-#define MAM_L(V, T)   TWO_MATRICES_BATCH(V, T, MA_L, M_S, MA_L)
-#define MAT_L(V, T)   TWO_MATRICES_BATCH(V, T, MA_L, T_S, MA_L)
-#define TAM_L(V, T)   TWO_MATRICES_BATCH(V, T, TA_L, M_S, MA_L)
-#define TAT_L(V, T)   TWO_MATRICES_BATCH(V, T, TA_L, T_S, MA_L)
-#define MAMA_L(V, T)  TWO_MATRICES_BATCH(V, T, MA_L, MA_L, MA_L)
-#define TAMA_L(V, T)  TWO_MATRICES_BATCH(V, T, TA_L, MA_L, MA_L)
-#define TATA_L(V, T)  TWO_MATRICES_BATCH(V, T, TA_L, TA_L, MA_L)
-#define MAM_P(V, T)   TWO_MATRICES_BATCH(V, T, MA_P, M_P, MA_P)
-#define MAT_P(V, T)   TWO_MATRICES_BATCH(V, T, MA_P, T_P, MA_P)
-#define TAM_P(V, T)   TWO_MATRICES_BATCH(V, T, TA_P, M_P, MA_P)
-#define TAT_P(V, T)   TWO_MATRICES_BATCH(V, T, TA_P, T_P, MA_P)
-#define MAMA_P(V, T)  TWO_MATRICES_BATCH(V, T, MA_P, MA_P, MA_P)
-#define TAMA_P(V, T)  TWO_MATRICES_BATCH(V, T, TA_P, MA_P, MA_P)
-#define TATA_P(V, T)  TWO_MATRICES_BATCH(V, T, TA_P, TA_P, MA_P)
+// The same on vectors of len elements, and a vector with a constant.
+#define TWO_VECTORS(W, Y, E, A, B, D)  ZELM_##A##_##Y(W, src1, const E), ZELM_##B##_##Y(W, src2, const E), ZELM_##D##_##Y(W, dst, E), ZELM_SIZE(W, len)
+#define VV(W, Y, E)    TWO_VECTORS(W, Y, E, V, V, V)
+#define VAV(W, Y, E)   TWO_VECTORS(W, Y, E, VA, V, VA), ZELM_COUNT(W)
+#define VVA(W, Y, E)   TWO_VECTORS(W, Y, E, V, VA, VA), ZELM_COUNT(W)
+#define VAVA(W, Y, E)  TWO_VECTORS(W, Y, E, VA, VA, VA), ZELM_COUNT(W)
+
+#define VECTOR_BY_VALUE(W, Y, E, A, D)      ZELM_##A##_##Y(W, src, const E), ZELM_C(W, val, E), ZELM_##D##_##Y(W, dst, E), ZELM_SIZE(W, len)
+#define VECTOR_BY_CONSTANTS(W, Y, E, A, D)  ZELM_##A##_##Y(W, src, const E), ZELM_CA_##Y(W, val, const E), ZELM_##D##_##Y(W, dst, E), ZELM_SIZE(W, len)
+#define VC(W, Y, E)    VECTOR_BY_VALUE(W, Y, E, V, V)
+#define VAC(W, Y, E)   VECTOR_BY_VALUE(W, Y, E, VA, VA), ZELM_COUNT(W)
+#define VCA(W, Y, E)   VECTOR_BY_CONSTANTS(W, Y, E, V, VA), ZELM_COUNT(W)
+#define VACA(W, Y, E)  VECTOR_BY_CONSTANTS(W, Y, E, VA, VA), ZELM_COUNT(W)
+// The constant first: the vector's arguments come first all the same.
+#define CV(W, Y, E)    VC(W, Y, E)
+#define CVA(W, Y, E)   VAC(W, Y, E)
+#define CAV(W, Y, E)   VCA(W, Y, E)
+#define CAVA(W, Y, E)  VACA(W, Y, E)
+
+// A matrix with a constant.
+#define MATRIX_BY_VALUE(W, Y, E, A, D)  ZELM_##A##_##Y(W, src, const E), ZELM_C(W, val, E), ZELM_##D##_##Y(W, dst, E), ZELM_SIZE(W, width), ZELM_SIZE(W, height)
+#define MC(W, Y, E)    MATRIX_BY_VALUE(W, Y, E, M, M)
+#define TC(W, Y, E)    MATRIX_BY_VALUE(W, Y, E, T, M)
+#define MAC(W, Y, E)   MATRIX_BY_VALUE(W, Y, E, MA, MA), ZELM_COUNT(W)
+#define TAC(W, Y, E)   MATRIX_BY_VALUE(W, Y, E, TA, MA), ZELM_COUNT(W)
 // clang-format on

@@ -5,75 +5,13 @@
 // registers. Arithmetic written on tiles serves both.
 #pragma once
 
+#include "zelmextent.h"
 #include "zelmkernel.h"
 #include "zelmlane.h"
 
 #include <utility>
 
 namespace zelm {
-
-// ---------------------------------------------------------------------------------------------------------------------
-// Lanes: a lane type L is an element type or a vector of one
-
-template <class L> struct LaneTraits {
-  using Element = L;
-  static constexpr int width = 1;
-};
-template <class T, int W> struct VectorLaneTraits {
-  using Element = T;
-  static constexpr int width = W;
-};
-template <> struct LaneTraits<Lanes<float, 4>> : VectorLaneTraits<float, 4> {};
-template <> struct LaneTraits<Lanes<double, 2>> : VectorLaneTraits<double, 2> {};
-template <> struct LaneTraits<Lanes<float, 8>> : VectorLaneTraits<float, 8> {};
-template <> struct LaneTraits<Lanes<double, 4>> : VectorLaneTraits<double, 4> {};
-
-template <class L> using ElementOf = typename LaneTraits<L>::Element;
-
-// The same value in every lane, signed zeros and NaN included.
-template <class L> ZELM_INLINE L splat(ElementOf<L> value) {
-  if constexpr (LaneTraits<L>::width == 1)
-    return value;
-  else
-    return value - L{};
-}
-
-// Lane w: element(w).
-template <class L, class F> ZELM_INLINE L lanesOf(const F& element) {
-  if constexpr (LaneTraits<L>::width == 1) {
-    return element(0);
-  } else {
-    L lanes;
-    ZELM_UNROLL
-    for (int w = 0; w < LaneTraits<L>::width; ++w)
-      lanes[w] = element(w);
-    return lanes;
-  }
-}
-
-#ifndef __AVX2__
-// The same lane in all. Shuffles of integers need no copy of their operand.
-template <class V> ZELM_INLINE V spreadLane(const V& v, int lane) {
-  const auto bits = reinterpret_cast<__m128i>(v);
-  if (sizeof(v[0]) == 8)
-    return reinterpret_cast<V>(lane == 0 ? _mm_shuffle_epi32(bits, 0x44) : _mm_shuffle_epi32(bits, 0xee));
-  switch (lane) {
-  case 0:
-    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0x00));
-  case 1:
-    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0x55));
-  case 2:
-    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0xaa));
-  default:
-    return reinterpret_cast<V>(_mm_shuffle_epi32(bits, 0xff));
-  }
-}
-#endif
-
-// The compiler keeps the value in a register here: it neither reads it from memory again nor forms it later.
-template <class V> ZELM_INLINE void holdInRegister(V& v) {
-  asm volatile("" : "+x"(v));
-}
 
 template <class L, int R, int C> struct Tile {
   L element[R * C];
@@ -101,196 +39,166 @@ template <int R, int C, class View> ZELM_INLINE auto loadTile(const View& x) {
 // Sixteen bytes of each object.
 template <class T> constexpr int chunkElements = 16 / static_cast<int>(sizeof(T));
 
-// A square of elements, one row a vector. Wide vectors keep to their halves first.
-template <class T> ZELM_INLINE void transposeSquare(Lanes<T, 4> (&v)[4]) {
-  if constexpr (sizeof(T) == 8) {
-    const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 2, 6);
-    const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 5, 3, 7);
-    const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 2, 6);
-    const auto a3 = __builtin_shufflevector(v[2], v[3], 1, 5, 3, 7);
-    v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
-    v[1] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
-    v[2] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
-    v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
-  } else {
-    const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 1, 5);
-    const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 6, 3, 7);
-    const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 4, 1, 5);
-    const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 6, 3, 7);
-    v[0] = __builtin_shufflevector(a0, a2, 0, 1, 4, 5);
-    v[1] = __builtin_shufflevector(a0, a2, 2, 3, 6, 7);
-    v[2] = __builtin_shufflevector(a1, a3, 0, 1, 4, 5);
-    v[3] = __builtin_shufflevector(a1, a3, 2, 3, 6, 7);
-  }
+// Chunks of as many objects as a vector is wide: vector q has the objects q, q + chunkElements, ... in its sixteen-byte
+// parts. Transposed, vector e has element e of every object, in order; the transposition is its own inverse.
+template <class V> ZELM_INLINE void transposeChunk(V (&v)[4]) {
+  const auto a0 = pick<0, 4, 1, 5>(v[0], v[1]);
+  const auto a1 = pick<2, 6, 3, 7>(v[0], v[1]);
+  const auto a2 = pick<0, 4, 1, 5>(v[2], v[3]);
+  const auto a3 = pick<2, 6, 3, 7>(v[2], v[3]);
+  v[0] = pick<0, 1, 4, 5>(a0, a2);
+  v[1] = pick<2, 3, 6, 7>(a0, a2);
+  v[2] = pick<0, 1, 4, 5>(a1, a3);
+  v[3] = pick<2, 3, 6, 7>(a1, a3);
 }
-template <class T> ZELM_INLINE void transposeSquare(Lanes<T, 2> (&v)[2]) {
-  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 2);
-  const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 3);
+template <class V> ZELM_INLINE void transposeChunk(V (&v)[2]) {
+  const auto a0 = pick<0, 2>(v[0], v[1]);
+  const auto a1 = pick<1, 3>(v[0], v[1]);
   v[0] = a0;
   v[1] = a1;
 }
 
-// The first element of each of the objects.
-template <class T, class C> struct ObjectAddresses { C* of[laneCount<T>]; };
-
-#ifdef __AVX2__
-ZELM_INLINE Lanes<float, 8> joinHalves(Lanes<float, 4> low, Lanes<float, 4> high) {
-  return __builtin_shufflevector(low, high, 0, 1, 2, 3, 4, 5, 6, 7);
+// Exchanges the parts of a whose number has bit `distance` with those of b whose number hasn't, in order.
+template <int distance, class V, int... w>
+ZELM_INLINE void exchangeParts(V& a, V& b, std::integer_sequence<int, w...>) {
+  constexpr int W = sizeof...(w);
+  constexpr int D = distance * chunkElements<ElementOf<V>>;
+  const V first = __builtin_shufflevector(a, b, ((w & D) == 0 ? w : w - D + W)...);
+  b = __builtin_shufflevector(a, b, ((w & D) == 0 ? w + D : w + W)...);
+  a = first;
 }
-ZELM_INLINE Lanes<double, 4> joinHalves(Lanes<double, 2> low, Lanes<double, 2> high) {
-  return __builtin_shufflevector(low, high, 0, 1, 2, 3);
+// A square of elements, one row a vector: within sixteen bytes first, then these change places.
+template <int distance, class V, int W> ZELM_INLINE void transposeParts(V (&v)[W]) {
+  constexpr int D = distance * chunkElements<ElementOf<V>>;
+  if constexpr (D < W) {
+    ZELM_UNROLL
+    for (int i = 0; i < W; ++i)
+      if ((i & D) == 0)
+        exchangeParts<distance>(v[i], v[i + D], std::make_integer_sequence<int, W>{});
+    transposeParts<2 * distance>(v);
+  }
 }
-ZELM_INLINE Lanes<float, 4> lowHalf(Lanes<float, 8> v) {
-  return __builtin_shufflevector(v, v, 0, 1, 2, 3);
-}
-ZELM_INLINE Lanes<float, 4> highHalf(Lanes<float, 8> v) {
-  return __builtin_shufflevector(v, v, 4, 5, 6, 7);
-}
-ZELM_INLINE Lanes<double, 2> lowHalf(Lanes<double, 4> v) {
-  return __builtin_shufflevector(v, v, 0, 1);
-}
-ZELM_INLINE Lanes<double, 2> highHalf(Lanes<double, 4> v) {
-  return __builtin_shufflevector(v, v, 2, 3);
-}
-
-ZELM_INLINE void transposeChunk(Lanes<float, 8> (&v)[4]) {
-  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 8, 1, 9, 4, 12, 5, 13);
-  const auto a1 = __builtin_shufflevector(v[0], v[1], 2, 10, 3, 11, 6, 14, 7, 15);
-  const auto a2 = __builtin_shufflevector(v[2], v[3], 0, 8, 1, 9, 4, 12, 5, 13);
-  const auto a3 = __builtin_shufflevector(v[2], v[3], 2, 10, 3, 11, 6, 14, 7, 15);
-  v[0] = __builtin_shufflevector(a0, a2, 0, 1, 8, 9, 4, 5, 12, 13);
-  v[1] = __builtin_shufflevector(a0, a2, 2, 3, 10, 11, 6, 7, 14, 15);
-  v[2] = __builtin_shufflevector(a1, a3, 0, 1, 8, 9, 4, 5, 12, 13);
-  v[3] = __builtin_shufflevector(a1, a3, 2, 3, 10, 11, 6, 7, 14, 15);
-}
-ZELM_INLINE void transposeChunk(Lanes<double, 4> (&v)[2]) {
-  const auto a0 = __builtin_shufflevector(v[0], v[1], 0, 4, 2, 6);
-  const auto a1 = __builtin_shufflevector(v[0], v[1], 1, 5, 3, 7);
-  v[0] = a0;
-  v[1] = a1;
-}
-#endif
-ZELM_INLINE void transposeChunk(Lanes<float, 4> (&v)[4]) {
-  transposeSquare<float>(v);
-}
-ZELM_INLINE void transposeChunk(Lanes<double, 2> (&v)[2]) {
-  transposeSquare<double>(v);
+template <class V, int W> ZELM_INLINE void transposeSquare(V (&v)[W]) {
+  constexpr int Q = smaller(W, chunkElements<ElementOf<V>>);
+  ZELM_UNROLL
+  for (int i = 0; i < W; i += Q)
+    transposeChunk(reinterpret_cast<V(&)[Q]>(v[i]));
+  transposeParts<1>(v);
 }
 
-// Chunk of each object at `offset` bytes: lanes[e] gets element e of every object. The transposition is its own
-// inverse.
-template <class T, class C>
-ZELM_INLINE void loadChunk(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T> (&lanes)[chunkElements<T>]) {
+// The vector whose part p is part(p), and store(p, part) for each part of a vector.
+template <class T, int W, class F> ZELM_INLINE Lanes<T, W> vectorOfParts(const F& part) {
+  constexpr int count = W / chunkElements<T>;
+  Lanes<T, chunkElements<T>> parts[count];
+  ZELM_UNROLL
+  for (int p = 0; p < count; ++p)
+    parts[p] = part(p);
+  return joinParts(parts);
+}
+template <class V, class F, int... p>
+ZELM_INLINE void forParts(const V& v, const F& store, std::integer_sequence<int, p...>) {
+  (store(p, partOf<p>(v)), ...);
+}
+template <class V, class F> ZELM_INLINE void forParts(const V& v, const F& store) {
+  forParts(v, store, std::make_integer_sequence<int, static_cast<int>(sizeof v) / 16>{});
+}
+
+// The first element of each of the objects, and what lies `offset` bytes behind it: N neighbouring elements of the
+// objects q, q + chunkElements, ... (a chunk, or three of four), a vector full of object w, one element of object w.
+// Whatever answers the same, such as products of two of these, can be transposed by the functions below.
+template <class T, class C, int W = laneCount<T>> struct ObjectAddresses {
+  C* of[W];
+
+  template <int N> ZELM_INLINE Lanes<T, W> chunks(int q, int64_t offset) const {
+    constexpr int Q = chunkElements<T>;
+    return vectorOfParts<T, W>([&](int p) ZELM_BODY {
+      if constexpr (N == Q)
+        return loadLanes<T, Q>(of[q + p * Q] + offset);
+      else
+        return loadTriple(of[q + p * Q] + offset);
+    });
+  }
+  ZELM_INLINE Lanes<T, W> vector(int w, int64_t offset) const { return loadLanes<T, W>(of[w] + offset); }
+  ZELM_INLINE T element(int w, int64_t offset) const { return loadElement<T>(of[w] + offset); }
+};
+
+// Chunk of each object at `offset` bytes: lanes[e] gets element e of every object.
+template <class T, class Objects, class V>
+ZELM_INLINE void loadChunk(const Objects& x, int64_t offset, V (&lanes)[chunkElements<T>]) {
   constexpr int Q = chunkElements<T>;
   ZELM_UNROLL
-  for (int q = 0; q < Q; ++q) {
-#ifdef __AVX2__
-    lanes[q] = joinHalves(loadLanes<T, Q>(x.of[q] + offset), loadLanes<T, Q>(x.of[q + Q] + offset));
-#else
-    lanes[q] = loadLanes<T, Q>(x.of[q] + offset);
-#endif
-  }
+  for (int q = 0; q < Q; ++q)
+    lanes[q] = x.template chunks<Q>(q, offset);
   transposeChunk(lanes);
 }
 
-template <class T>
-ZELM_INLINE void storeChunk(const ObjectAddresses<T, char>& x, int64_t offset, Lanes<T> (&lanes)[chunkElements<T>]) {
+template <class T, int W>
+ZELM_INLINE void storeChunk(const ObjectAddresses<T, char, W>& x, int64_t offset,
+                            LanesOf<T, W> (&lanes)[chunkElements<T>]) {
   constexpr int Q = chunkElements<T>;
   transposeChunk(lanes);
   ZELM_UNROLL
-  for (int q = 0; q < Q; ++q) {
-#ifdef __AVX2__
-    storeLanes(x.of[q] + offset, lowHalf(lanes[q]));
-    storeLanes(x.of[q + Q] + offset, highHalf(lanes[q]));
-#else
-    storeLanes(x.of[q] + offset, lanes[q]);
-#endif
-  }
-}
-
-// Three elements of one object.
-ZELM_INLINE Lanes<float, 4> loadTriple(const char* address) {
-  const auto two = _mm_set_sd(loadElement<double>(address));
-  const auto third = _mm_set_ss(loadElement<float>(address + 8));
-  return _mm_movelh_ps(_mm_castpd_ps(two), third);
-}
-ZELM_INLINE void storeTriple(char* address, Lanes<float, 4> v) {
-  storeElement(address, _mm_cvtsd_f64(_mm_castps_pd(v)));
-  storeElement(address + 8, _mm_cvtss_f32(_mm_movehl_ps(v, v)));
+  for (int q = 0; q < Q; ++q)
+    forParts(lanes[q], [&](int p, const auto& part) { storeLanes(x.of[q + p * Q] + offset, part); });
 }
 
 // N neighbouring elements of each object at `offset` bytes, into lanes[0 .. N-1]. The last chunk of a run of at least
 // one chunk overlaps its neighbour; three elements are two and one; a shorter run goes element by element.
-template <int N, class T, class C>
-ZELM_INLINE void loadRun(const ObjectAddresses<T, C>& x, int64_t offset, Lanes<T>* lanes) {
+template <int N, class T, class Objects, class V> ZELM_INLINE void loadRun(const Objects& x, int64_t offset, V* lanes) {
   constexpr int Q = chunkElements<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   if constexpr (N >= Q) {
     ZELM_UNROLL
     for (int e = 0; e < N; e += Q) {
       const int from = e + Q <= N ? e : N - Q;
-      Lanes<T> chunk[Q];
+      V chunk[Q];
       loadChunk<T>(x, offset + from * E, chunk);
       ZELM_UNROLL
       for (int q = e - from; q < Q; ++q)
         lanes[from + q] = chunk[q];
     }
   } else if constexpr (N == 3) {
-    Lanes<T> chunk[Q];
+    V chunk[Q];
     ZELM_UNROLL
-    for (int q = 0; q < Q; ++q) {
-#ifdef __AVX2__
-      chunk[q] = joinHalves(loadTriple(x.of[q] + offset), loadTriple(x.of[q + Q] + offset));
-#else
-      chunk[q] = loadTriple(x.of[q] + offset);
-#endif
-    }
+    for (int q = 0; q < Q; ++q)
+      chunk[q] = x.template chunks<N>(q, offset);
     transposeChunk(chunk);
     ZELM_UNROLL
     for (int e = 0; e < N; ++e)
       lanes[e] = chunk[e];
   } else {
     ZELM_UNROLL
-    for (int e = 0; e < N; ++e) {
-      ZELM_UNROLL
-      for (int w = 0; w < laneCount<T>; ++w)
-        lanes[e][w] = loadElement<T>(x.of[w] + offset + e * E);
-    }
+    for (int e = 0; e < N; ++e)
+      lanes[e] = lanesOf<V>([&](int w) ZELM_BODY { return x.element(w, offset + e * E); });
   }
 }
 
 // The same back. All lanes have been computed before the first is stored, so what overlaps is written twice alike.
-template <int N, class T>
-ZELM_INLINE void storeRun(const ObjectAddresses<T, char>& x, int64_t offset, const Lanes<T>* lanes) {
+template <int N, class T, int W>
+ZELM_INLINE void storeRun(const ObjectAddresses<T, char, W>& x, int64_t offset, const LanesOf<T, W>* lanes) {
   constexpr int Q = chunkElements<T>;
   constexpr auto E = static_cast<int64_t>(sizeof(T));
   if constexpr (N >= Q) {
     ZELM_UNROLL
     for (int e = 0; e < N; e += Q) {
       const int from = e + Q <= N ? e : N - Q;
-      Lanes<T> chunk[Q];
+      Lanes<T, W> chunk[Q];
       ZELM_UNROLL
       for (int q = 0; q < Q; ++q)
         chunk[q] = lanes[from + q];
-      storeChunk<T>(x, offset + from * E, chunk);
+      storeChunk(x, offset + from * E, chunk);
     }
   } else if constexpr (N == 3) {
-    Lanes<T> chunk[Q] = {lanes[0], lanes[1], lanes[2], lanes[2]};
+    Lanes<T, W> chunk[Q] = {lanes[0], lanes[1], lanes[2], lanes[2]};
     transposeChunk(chunk);
     ZELM_UNROLL
-    for (int q = 0; q < Q; ++q) {
-#ifdef __AVX2__
-      storeTriple(x.of[q] + offset, lowHalf(chunk[q]));
-      storeTriple(x.of[q + Q] + offset, highHalf(chunk[q]));
-#else
-      storeTriple(x.of[q] + offset, chunk[q]);
-#endif
-    }
+    for (int q = 0; q < Q; ++q)
+      forParts(chunk[q], [&](int p, const auto& part) { storeTriple(x.of[q + p * Q] + offset, part); });
   } else {
     ZELM_UNROLL
     for (int e = 0; e < N; ++e) {
       ZELM_UNROLL
-      for (int w = 0; w < laneCount<T>; ++w)
+      for (int w = 0; w < W; ++w)
         storeElement<T>(x.of[w] + offset + e * E, lanes[e][w]);
     }
   }
@@ -303,12 +211,12 @@ ZELM_INLINE void storeRun(const ObjectAddresses<T, char>& x, int64_t offset, con
 template <int R, int C, class Operand> ZELM_INLINE auto loadTiles(const Operand& x, int64_t k) {
   using T = typename Operand::Element;
   const auto view = x.object(k, C);
-  Tile<Lanes<T>, R, C> tile;
+  Tile<RowLanes<T>, R, C> tile;
   ZELM_UNROLL
   for (int i = 0; i < R; ++i) {
     ZELM_UNROLL
     for (int j = 0; j < C; ++j)
-      tile(i, j) = loadLanes<T>(view.address(i, j));
+      tile(i, j) = loadRowLanes<T>(view.address(i, j));
   }
   return tile;
 }
@@ -317,20 +225,51 @@ template <int R, int C, class Operand> ZELM_INLINE auto loadTiles(const Operand&
 template <int N, class Operand> ZELM_INLINE auto loadVectorTiles(const Operand& x, int64_t k) {
   using T = typename Operand::Element;
   const auto view = x.object(k);
-  Tile<Lanes<T>, 1, N> tile;
+  Tile<RowLanes<T>, 1, N> tile;
   ZELM_UNROLL
   for (int j = 0; j < N; ++j)
-    tile(0, j) = loadLanes<T>(view.address(j));
+    tile(0, j) = loadRowLanes<T>(view.address(j));
   return tile;
 }
 
 template <int N, class Operand>
 ZELM_INLINE void storeVectorTiles(const Operand& x, int64_t k,
-                                  const Tile<Lanes<typename Operand::Element>, 1, N>& tile) {
+                                  const Tile<RowLanes<typename Operand::Element>, 1, N>& tile) {
   const auto view = x.object(k);
   ZELM_UNROLL
   for (int j = 0; j < N; ++j)
     storeLanes(view.address(j), tile(0, j));
 }
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Lane values in memory
+
+// Lanes or, as the caller's scratch, elements at any address; the two vectors of a pair each in its own place.
+template <class L> struct Column {
+  L* element;
+  ZELM_INLINE L load(int64_t i) const {
+    L value;
+    std::memcpy(&value, element + i, sizeof value);
+    return value;
+  }
+  ZELM_INLINE void store(int64_t i, L value) const { std::memcpy(element + i, &value, sizeof value); }
+};
+template <class V> struct Column<Pair<V>> {
+  V* low;
+  V* high;
+  ZELM_INLINE Pair<V> load(int64_t i) const { return {low[i], high[i]}; }
+  ZELM_INLINE void store(int64_t i, const Pair<V>& value) const {
+    low[i] = value.low;
+    high[i] = value.high;
+  }
+};
+
+// A dense matrix, row after row.
+template <class L, class Width> struct Rectangle {
+  Column<L> elements;
+  Width width;
+  ZELM_INLINE L load(int64_t i, int64_t j) const { return elements.load(i * width + j); }
+  ZELM_INLINE void store(int64_t i, int j, const L& value) const { elements.store(i * width + j, value); }
+};
 
 } // namespace zelm

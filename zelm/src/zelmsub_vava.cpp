@@ -1,0 +1,66 @@
+// Exported functions: Sub on arrays of vectors and constants.
+#include "zelmelementwisesignature.h"
+
+// clang-format off
+// The count of vav is tested last, in the pointer layout before the shifts.
+//             exported function, arguments, layout, type, order of tests, estimate, forks, kernels: unit strides, any, front
+ESTIMATE_FIRST(zelmSub_vav_32f,    VAV,  S, float,  N_Z_S_C,   oneArrayOfVectors,   above(4800), ownzelmSub_vav_32f,    ownzelmSub_vav_32f_S2,   ownOMP_zelmSub_vav_32f)
+ESTIMATE_FIRST(zelmSub_vav_64f,    VAV,  S, double, N_Z_S_C,   oneArrayOfVectors,   above(1400), ownzelmSub_vav_64f,    ownzelmSub_vav_64f_S2,   ownOMP_zelmSub_vav_64f)
+ESTIMATE_FIRST(zelmSub_vva_32f,    VVA,  S, float,  N_C_Z_S,   oneArrayOfVectors,   above(4800), ownzelmSub_vva_32f,    ownzelmSub_vva_32f_S2,   ownOMP_zelmSub_vva_32f)
+ESTIMATE_FIRST(zelmSub_vva_64f,    VVA,  S, double, N_C_Z_S,   oneArrayOfVectors,   above(1400), ownzelmSub_vva_64f,    ownzelmSub_vva_64f_S2,   ownOMP_zelmSub_vva_64f)
+ESTIMATE_FIRST(zelmSub_vava_32f,   VAVA, S, float,  N_C_Z_S,   twoArraysOfVectors,  above(4800), ownzelmSub_vava_32f,   ownzelmSub_vava_32f_S2,  ownOMP_zelmSub_vava_32f)
+ESTIMATE_FIRST(zelmSub_vava_64f,   VAVA, S, double, N_C_Z_S,   twoArraysOfVectors,  above(1400), ownzelmSub_vava_64f,   ownzelmSub_vava_64f_S2,  ownOMP_zelmSub_vava_64f)
+ESTIMATE_FIRST(zelmSub_vac_32f,    VAC,  S, float,  N_C_Z_S,   oneArrayOfVectors,   above(4800), ownzelmSub_vac_32f,    ownzelmSub_vac_32f_S2,   ownOMP_zelmSub_vac_32f)
+ESTIMATE_FIRST(zelmSub_vac_64f,    VAC,  S, double, N_C_Z_S,   oneArrayOfVectors,   above(1400), ownzelmSub_vac_64f,    ownzelmSub_vac_64f_S2,   ownOMP_zelmSub_vac_64f)
+ESTIMATE_FIRST(zelmSub_vca_32f,    VCA,  S, float,  N_C_Z_S,   vectorAndConstants,  above(4800), ownzelmSub_vca_32f,    ownzelmSub_vca_32f_S2,   ownOMP_zelmSub_vca_32f)
+ESTIMATE_FIRST(zelmSub_vca_64f,    VCA,  S, double, N_C_Z_S,   vectorAndConstants,  above(1400), ownzelmSub_vca_64f,    ownzelmSub_vca_64f_S2,   ownOMP_zelmSub_vca_64f)
+ESTIMATE_FIRST(zelmSub_vaca_32f,   VACA, S, float,  N_C_Z_S,   vectorsAndConstants, above(4800), ownzelmSub_vaca_32f,   ownzelmSub_vaca_32f_S2,  ownOMP_zelmSub_vaca_32f)
+ESTIMATE_FIRST(zelmSub_vaca_64f,   VACA, S, double, N_C_Z_S,   vectorsAndConstants, above(1400), ownzelmSub_vaca_64f,   ownzelmSub_vaca_64f_S2,  ownOMP_zelmSub_vaca_64f)
+ESTIMATE_FIRST(zelmSub_cva_32f,    CVA,  S, float,  N_C_Z_S,   constantAndVectors,  above(4800), ownzelmSub_cva_32f,    ownzelmSub_cva_32f_S2,   ownOMP_zelmSub_cva_32f)
+ESTIMATE_FIRST(zelmSub_cva_64f,    CVA,  S, double, N_C_Z_S,   constantAndVectors,  above(1400), ownzelmSub_cva_64f,    ownzelmSub_cva_64f_S2,   ownOMP_zelmSub_cva_64f)
+ESTIMATE_FIRST(zelmSub_cav_32f,    CAV,  S, float,  N_C_Z_S,   vectorAndConstants,  above(4800), ownzelmSub_cav_32f,    ownzelmSub_cav_32f_S2,   ownOMP_zelmSub_cav_32f)
+ESTIMATE_FIRST(zelmSub_cav_64f,    CAV,  S, double, N_C_Z_S,   vectorAndConstants,  above(1400), ownzelmSub_cav_64f,    ownzelmSub_cav_64f_S2,   ownOMP_zelmSub_cav_64f)
+ESTIMATE_FIRST(zelmSub_cava_32f,   CAVA, S, float,  N_C_Z_S,   vectorsAndConstants, above(4800), ownzelmSub_cava_32f,   ownzelmSub_cava_32f_S2,  ownOMP_zelmSub_cava_32f)
+ESTIMATE_FIRST(zelmSub_cava_64f,   CAVA, S, double, N_C_Z_S,   vectorsAndConstants, above(1400), ownzelmSub_cava_64f,   ownzelmSub_cava_64f_S2,  ownOMP_zelmSub_cava_64f)
+ESTIMATE_FIRST(zelmSub_vav_32f_L,  VAV,  L, float,  N_Z_S_H_C, oneArrayOfVectors,   above(2500), ownzelmSub_vav_32f_L,  ownzelmSub_vav_32f_LS2,  ownOMP_zelmSub_vav_32f_L)
+ESTIMATE_FIRST(zelmSub_vav_64f_L,  VAV,  L, double, N_Z_S_H_C, oneArrayOfVectors,   above(2500), ownzelmSub_vav_64f_L,  ownzelmSub_vav_64f_LS2,  ownOMP_zelmSub_vav_64f_L)
+ESTIMATE_FIRST(zelmSub_vva_32f_L,  VVA,  L, float,  N_C_Z_S_H, oneArrayOfVectors,   above(2500), ownzelmSub_vva_32f_L,  ownzelmSub_vva_32f_LS2,  ownOMP_zelmSub_vva_32f_L)
+ESTIMATE_FIRST(zelmSub_vva_64f_L,  VVA,  L, double, N_C_Z_S_H, oneArrayOfVectors,   above(2500), ownzelmSub_vva_64f_L,  ownzelmSub_vva_64f_LS2,  ownOMP_zelmSub_vva_64f_L)
+ESTIMATE_FIRST(zelmSub_vava_32f_L, VAVA, L, float,  N_C_Z_S_H, twoArraysOfVectors,  above(2500), ownzelmSub_vava_32f_L, ownzelmSub_vava_32f_LS2, ownOMP_zelmSub_vava_32f_L)
+ESTIMATE_FIRST(zelmSub_vava_64f_L, VAVA, L, double, N_C_Z_S_H, twoArraysOfVectors,  above(2500), ownzelmSub_vava_64f_L, ownzelmSub_vava_64f_LS2, ownOMP_zelmSub_vava_64f_L)
+ESTIMATE_FIRST(zelmSub_vac_32f_L,  VAC,  L, float,  N_C_Z_S_H, oneArrayOfVectors,   above(2500), ownzelmSub_vac_32f_L,  ownzelmSub_vac_32f_LS2,  ownOMP_zelmSub_vac_32f_L)
+ESTIMATE_FIRST(zelmSub_vac_64f_L,  VAC,  L, double, N_C_Z_S_H, oneArrayOfVectors,   above(2500), ownzelmSub_vac_64f_L,  ownzelmSub_vac_64f_LS2,  ownOMP_zelmSub_vac_64f_L)
+ESTIMATE_FIRST(zelmSub_vca_32f_L,  VCA,  L, float,  N_C_Z_S_H, vectorAndConstants,  above(2500), ownzelmSub_vca_32f_L,  ownzelmSub_vca_32f_LS2,  ownOMP_zelmSub_vca_32f_L)
+ESTIMATE_FIRST(zelmSub_vca_64f_L,  VCA,  L, double, N_C_Z_S_H, vectorAndConstants,  above(2500), ownzelmSub_vca_64f_L,  ownzelmSub_vca_64f_LS2,  ownOMP_zelmSub_vca_64f_L)
+ESTIMATE_FIRST(zelmSub_vaca_32f_L, VACA, L, float,  N_C_Z_S_H, vectorsAndConstants, above(2500), ownzelmSub_vaca_32f_L, ownzelmSub_vaca_32f_LS2, ownOMP_zelmSub_vaca_32f_L)
+ESTIMATE_FIRST(zelmSub_vaca_64f_L, VACA, L, double, N_C_Z_S_H, vectorsAndConstants, above(2500), ownzelmSub_vaca_64f_L, ownzelmSub_vaca_64f_LS2, ownOMP_zelmSub_vaca_64f_L)
+ESTIMATE_FIRST(zelmSub_cva_32f_L,  CVA,  L, float,  N_C_Z_S_H, constantAndVectors,  above(2500), ownzelmSub_cva_32f_L,  ownzelmSub_cva_32f_LS2,  ownOMP_zelmSub_cva_32f_L)
+ESTIMATE_FIRST(zelmSub_cva_64f_L,  CVA,  L, double, N_C_Z_S_H, constantAndVectors,  above(2500), ownzelmSub_cva_64f_L,  ownzelmSub_cva_64f_LS2,  ownOMP_zelmSub_cva_64f_L)
+ESTIMATE_FIRST(zelmSub_cav_32f_L,  CAV,  L, float,  N_C_Z_S_H, vectorAndConstants,  above(2500), ownzelmSub_cav_32f_L,  ownzelmSub_cav_32f_LS2,  ownOMP_zelmSub_cav_32f_L)
+ESTIMATE_FIRST(zelmSub_cav_64f_L,  CAV,  L, double, N_C_Z_S_H, vectorAndConstants,  above(2500), ownzelmSub_cav_64f_L,  ownzelmSub_cav_64f_LS2,  ownOMP_zelmSub_cav_64f_L)
+ESTIMATE_FIRST(zelmSub_cava_32f_L, CAVA, L, float,  N_C_Z_S_H, vectorsAndConstants, above(2500), ownzelmSub_cava_32f_L, ownzelmSub_cava_32f_LS2, ownOMP_zelmSub_cava_32f_L)
+ESTIMATE_FIRST(zelmSub_cava_64f_L, CAVA, L, double, N_C_Z_S_H, vectorsAndConstants, above(2500), ownzelmSub_cava_64f_L, ownzelmSub_cava_64f_LS2, ownOMP_zelmSub_cava_64f_L)
+
+// zelmSub_cav_32f_P tests no shift, unlike its 64f sibling; this is meant.
+//            exported function, arguments, layout, type, order of tests, estimate, forks, kernel, front
+ARRAY_POINTER(zelmSub_vav_32f_P,  VAV,  P, float,  N_Z_S_C_H, oneArrayOfVectors,   above(1500), ownzelmSub_vav_32f_P,  ownOMP_zelmSub_vav_32f_P)
+ARRAY_POINTER(zelmSub_vav_64f_P,  VAV,  P, double, N_Z_S_C_H, oneArrayOfVectors,   above(1500), ownzelmSub_vav_64f_P,  ownOMP_zelmSub_vav_64f_P)
+ARRAY_POINTER(zelmSub_vva_32f_P,  VVA,  P, float,  N_C_Z_S_H, oneArrayOfVectors,   above(1500), ownzelmSub_vva_32f_P,  ownOMP_zelmSub_vva_32f_P)
+ARRAY_POINTER(zelmSub_vava_32f_P, VAVA, P, float,  N_C_Z_S_H, twoArraysOfVectors,  above(1500), ownzelmSub_vava_32f_P, ownOMP_zelmSub_vava_32f_P)
+ARRAY_POINTER(zelmSub_vava_64f_P, VAVA, P, double, N_C_Z_S_H, twoArraysOfVectors,  above(1500), ownzelmSub_vava_64f_P, ownOMP_zelmSub_vava_64f_P)
+ARRAY_POINTER(zelmSub_vac_32f_P,  VAC,  P, float,  N_C_Z_S_H, oneArrayOfVectors,   above(1500), ownzelmSub_vac_32f_P,  ownOMP_zelmSub_vac_32f_P)
+ARRAY_POINTER(zelmSub_vac_64f_P,  VAC,  P, double, N_C_Z_S_H, oneArrayOfVectors,   above(1500), ownzelmSub_vac_64f_P,  ownOMP_zelmSub_vac_64f_P)
+ARRAY_POINTER(zelmSub_vca_32f_P,  VCA,  P, float,  N_C_Z_S_H, vectorAndConstants,  above(1500), ownzelmSub_vca_32f_P,  ownOMP_zelmSub_vca_32f_P)
+ARRAY_POINTER(zelmSub_vca_64f_P,  VCA,  P, double, N_C_Z_S_H, vectorAndConstants,  above(1500), ownzelmSub_vca_64f_P,  ownOMP_zelmSub_vca_64f_P)
+ARRAY_POINTER(zelmSub_vaca_32f_P, VACA, P, float,  N_C_Z_S_H, vectorsAndConstants, above(1500), ownzelmSub_vaca_32f_P, ownOMP_zelmSub_vaca_32f_P)
+ARRAY_POINTER(zelmSub_vaca_64f_P, VACA, P, double, N_C_Z_S_H, vectorsAndConstants, above(1500), ownzelmSub_vaca_64f_P, ownOMP_zelmSub_vaca_64f_P)
+ARRAY_POINTER(zelmSub_cva_32f_P,  CVA,  P, float,  N_C_Z_S_H, constantAndVectors,  above(1500), ownzelmSub_cva_32f_P,  ownOMP_zelmSub_cva_32f_P)
+ARRAY_POINTER(zelmSub_cva_64f_P,  CVA,  P, double, N_C_Z_S_H, constantAndVectors,  above(1500), ownzelmSub_cva_64f_P,  ownOMP_zelmSub_cva_64f_P)
+ARRAY_POINTER(zelmSub_cav_32f_P,  CAV,  P, float,  N_C_Z_S,   vectorAndConstants,  above(1500), ownzelmSub_cav_32f_P,  ownOMP_zelmSub_cav_32f_P)
+ARRAY_POINTER(zelmSub_cav_64f_P,  CAV,  P, double, N_C_Z_S_H, vectorAndConstants,  above(1500), ownzelmSub_cav_64f_P,  ownOMP_zelmSub_cav_64f_P)
+ARRAY_POINTER(zelmSub_cava_32f_P, CAVA, P, float,  N_C_Z_S_H, vectorsAndConstants, above(1500), ownzelmSub_cava_32f_P, ownOMP_zelmSub_cava_32f_P)
+ARRAY_POINTER(zelmSub_cava_64f_P, CAVA, P, double, N_C_Z_S_H, vectorsAndConstants, above(1500), ownzelmSub_cava_64f_P, ownOMP_zelmSub_cava_64f_P)
+
+// It has no front and runs on the calling thread whatever its work, unlike its 32f sibling; this is meant.
+SINGLE_POINTER(zelmSub_vva_64f_P, VVA, P, double, N_C_Z_S_H, ownzelmSub_vva_64f_P)
+// clang-format on
