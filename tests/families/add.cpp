@@ -1,9 +1,11 @@
-// Sums of matrices.
+// Sums of matrices, and of vectors and constants.
 #include "huge.h"
 
 #include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
+
+#include <cstring>
 
 namespace {
 
@@ -16,10 +18,27 @@ uint32_t allArrays(const Sizes& s) {
   return 3 * s["width"] * s["height"] * s["count"];
 }
 
+uint32_t oneArrayOfVectors(const Sizes& s) {
+  return s["len"] * (2 * s["count"] + 1);
+}
+uint32_t arraysOfVectors(const Sizes& s) {
+  return 3 * s["len"] * s["count"];
+}
+uint32_t vectorsAndConstants(const Sizes& s) {
+  return s["count"] * (2 * s["len"] + 1);
+}
+uint32_t vectorAndConstants(const Sizes& s) {
+  return s["len"] * s["count"] + s["len"] + s["count"];
+}
+
 constexpr Orders single = {"NZS", nullptr, "NZH"}, array = {"NCZS", "NCZSH", "NCZSH"};
 constexpr Limits limits32 = {3000, 2000, 2000, 2000, 2000}, limits64 = {2000, 2000, 2000, 2000, 2000};
 
-Family family() {
+// The count of vav is tested behind the strides, in the list layout behind the shifts.
+constexpr Orders vav = {"NZSC", "NZSHC", "NZSCH"};
+constexpr Limits vectors32 = {4800, 4800, 2500, 2500, 1500}, vectors64 = {1400, 1400, 2500, 2500, 1500};
+
+Family matrices() {
   Family f;
   f.name = "Add on matrices";
   // clang-format off
@@ -56,7 +75,40 @@ Family family() {
   return f;
 }
 
-const Registration registration{family()};
+Family vectors() {
+  Family f;
+  f.name = "Add on vectors and constants";
+  // clang-format off
+  f.forms = {
+      {ZELMTEST_SINGLE(zelmAdd_vv),  "src1:v src2:v dst:v len",          single, "src1 src2"},
+      {ZELMTEST_SINGLE(zelmAdd_vc),  "src1:v src2:c dst:v len",          single, "src1"},
+      {ZELMTEST_ARRAY(zelmAdd_vav),  "src1:va src2:v dst:va len count",  vav,    "src1",      oneArrayOfVectors,   vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vava), "src1:va src2:va dst:va len count", array,  "src1 src2", arraysOfVectors,     vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vac),  "src1:va src2:c dst:va len count",  array,  "src1",      oneArrayOfVectors,   vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vca),  "src1:v src2:ca dst:va len count",  array,  "",          vectorAndConstants,  vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vaca), "src1:va src2:ca dst:va len count", array,  "src1",      vectorsAndConstants, vectors32, vectors64},
+  };
+  // clang-format on
+  f.fork = Fork::Above;
+  f.exceptions = {{"zelmAdd_vca_64f_P",
+                   [](Member& m) {
+                     m.omitted = {"src1Shift", "dstShift"};
+                   }},
+                  {"zelmAdd_vaca_32f_P", [](Member& m) { m.omitted = {"src1Stride0"}; }}};
+  f.delegate = [](const Member& m, const Sizes&, bool unit) {
+    return m.layout == 'L' && !unit && (m.formName == "vav" || m.formName == "vava") ? m.kernelOfOne("_S2") : "";
+  };
+  f.reference = both([](auto& job) {
+    auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
+    const bool constant = job.member().formName.find('c') != std::string::npos;
+    for (int k = 0; k < job.count(); ++k)
+      for (int j = 0; j < job.size("len"); ++j)
+        dst.set(k, 0, j, src1(k, 0, j) + src2(k, 0, constant ? 0 : j));
+  });
+  return f;
+}
+
+const Registration onMatrices{matrices()}, onVectors{vectors()};
 
 TEST(Thresholds, Numbers) {
   if (!countedBuild)
@@ -70,6 +122,13 @@ TEST(Thresholds, Numbers) {
   EXPECT_EQ("ownzelmAdd_mama_32f_LS2", entered("zelmAdd_mama_32f_L", 4, 41, "src1Stride2", 12));
   EXPECT_EQ("ownzelmAdd_mama_32f_P", entered("zelmAdd_mama_32f_P", 1000, 1000));     // 3e9 is negative
   EXPECT_EQ("ownOMP_zelmAdd_mama_32f_P", entered("zelmAdd_mama_32f_P", 1000, 1500)); // 4.5e9 is positive again
+  EXPECT_EQ("ownOMP_zelmAdd_vca_32f", entered("zelmAdd_vca_32f", 100, 47));          // 4847
+  EXPECT_EQ("ownzelmAdd_vava_32f", entered("zelmAdd_vava_32f", 4, 400));             // 4800 is not above 4800
+  EXPECT_EQ("ownzelmAdd_vac_64f", entered("zelmAdd_vac_64f", 3, 232));               // 1395
+  EXPECT_EQ("ownOMP_zelmAdd_vac_64f", entered("zelmAdd_vac_64f", 3, 233));
+  EXPECT_EQ("ownOMP_zelmAdd_vac_64f", entered("zelmAdd_vac_64f", 3, 233, "dstStride2", 16));
+  EXPECT_EQ("ownzelmAdd_vaca_32f_L", entered("zelmAdd_vaca_32f_L", 3, 357)); // 2499
+  EXPECT_EQ("ownOMP_zelmAdd_vaca_32f_L", entered("zelmAdd_vaca_32f_L", 3, 358));
 }
 
 template <class T, class Call> void huge(int arrays, Call call) {
@@ -97,6 +156,72 @@ TEST(Huge, Add_mama) {
   });
   huge<double>(2, [](auto* a, auto* b, auto* d, int row, int count) {
     return zelmAdd_mama_64f(a, 3 * row, row, 8, b, 3 * row, row, 8, d, 3 * row, row, 8, 3, 3, count);
+  });
+}
+
+// Shifts that are no multiples of an element, and a shift below 0.
+TEST(Results, UntestedShifts) {
+  alignas(8) char memory[200] = {};
+  const double given[] = {1.5, -2.25, 3}, constants[] = {10, 20};
+  for (int shift : {-8, -3, 0, 4, 13}) {
+    std::memcpy(memory + 16 + shift, given, sizeof given);
+    const double* src[3];
+    double* dst[3];
+    for (int j = 0; j < 3; ++j) {
+      src[j] = reinterpret_cast<const double*>(memory + 16 + 8 * j);
+      dst[j] = reinterpret_cast<double*>(memory + 100 - shift + 16 * j);
+    }
+    ASSERT_EQ(zelStatusOk, zelmAdd_vca_64f_P(src, shift, constants, 8, dst, shift, 8, 3, 2));
+    for (int k = 0; k < 2; ++k)
+      for (int j = 0; j < 3; ++j) {
+        double sum;
+        std::memcpy(&sum, memory + 100 + 16 * j + 8 * k, sizeof sum);
+        ASSERT_EQ(given[j] + constants[k], sum) << "shift " << shift;
+      }
+  }
+}
+
+TEST(Results, UntestedStride) {
+  const float given[] = {1, 2, 3, 4, 5, 6, 7, 8, 9}, constants[] = {10, 20, 30};
+  for (int stride : {0, 4, -4, 3, -5, 8}) {
+    const float* src[] = {given + 3, given + 4};
+    float result[6];
+    float* dst[] = {result, result + 3};
+    ASSERT_EQ(zelStatusOk, zelmAdd_vaca_32f_P(src, 0, stride, constants, 4, dst, 0, 4, 2, 3));
+    for (int k = 0; k < 3; ++k)
+      for (int j = 0; j < 2; ++j) {
+        float element;
+        std::memcpy(&element, reinterpret_cast<const char*>(src[j]) + k * stride, sizeof element);
+        ASSERT_EQ(element + constants[k], result[3 * j + k]) << "stride " << stride;
+      }
+  }
+}
+
+TEST(Huge, Add_vectors) {
+  const std::vector<float> a = hugeValues<float>(static_cast<size_t>(hugeCount<float>(3)) * 3);
+  expectHugeAsInSmallCalls<float>(3, [&](int first, int count, float* dst) {
+    return zelmAdd_vav_32f(&a[static_cast<size_t>(first) * 3], 12, 4, a.data(), 4, dst, 12, 4, 3, count);
+  });
+  expectHugeAsInSmallCalls<float>(3, [&](int first, int count, float* dst) {
+    return zelmAdd_vaca_32f(&a[static_cast<size_t>(first) * 3], 12, 4, &a[static_cast<size_t>(first)], 4, dst, 12, 4, 3,
+                            count);
+  });
+  const std::vector<double> b = hugeValues<double>(static_cast<size_t>(hugeCount<double>(5)));
+  expectHugeAsInSmallCalls<double>(5, [&](int first, int count, double* dst) {
+    return zelmAdd_vca_64f(b.data(), 8, &b[static_cast<size_t>(first)], 8, dst, 40, 8, 5, count);
+  });
+}
+
+// Positions whose result is larger than any cache.
+TEST(Huge, Add_positions) {
+  const int count = hugeCount<float>(1);
+  const std::vector<float> a = hugeValues<float>(static_cast<size_t>(count));
+  std::vector<float> expected(a.size());
+  for (size_t i = 0; i < a.size(); ++i)
+    expected[i] = a[i] + 0.75f;
+  expectHuge(expected, [&](float* dst) {
+    const float* list = a.data();
+    return zelmAdd_vac_32f_P(&list, 0, 4, 0.75f, &dst, 0, 4, 1, count);
   });
 }
 

@@ -29,6 +29,11 @@ constexpr SumRow sumRows[] = {
     {"pairs 32",   {"", "", "", "0+1+2", "(0+1)+(2+3)", "((0+1)+4)+(2+3)", "((0+1)+(2+3))+(4+5)"}, {}},
     {"pairs 64",   {"", "", "", "0+1+2", "(0+1)+(2+3)", "((0+1)+(2+3))+4", "((0+1)+(2+3))+(4+5)"}, {}},
     {"tail first", {"", "", "", "0+1+2", "3+0+1+2",     "4+0+1+2+3",     "5+0+1+2+3+4"},     {}},
+    {"tail pair",  {"", "", "", "0+1+2", "3+0+1+2",     "4+0+1+2+3",     "5+4+0+1+2+3"},     {}},
+    {"two pairs",  {"", "", "", "0+1+2", "(0+1)+(2+3)", "0+1+2+3+4",     "0+1+2+3+4+5"},     {}},
+    {"dot 64",     {"", "", "", "0+1+2", "(0+2)+(1+3)", "((0+2)+(1+3))+4", "(0+(2+4))+(1+(3+5))"}, {}},
+    {"norm 64",    {"", "", "", "2+0+1", "(0+2)+(1+3)", "((0+2)+4)+(1+3)", "((0+2)+4)+((1+3)+5)"}, {}},
+    {"norm 32",    {"", "", "", "0+1+2", "0+1+2+3",     "((0+1)+(2+3))+4", "((0+2)+4)+((1+3)+5)"}, {}},
 };
 // clang-format on
 
@@ -123,12 +128,24 @@ template <class Job> void fillSums(Job& job, Rng& rng, int kind) {
   }
 }
 
-// Whether data of the kinds that a family runs with tells two sums of n terms apart, src3 added if there is one.
-template <class T>
-bool toldApart(const Member& m, int n, const std::function<T(const std::vector<T>&)>& one,
+// Calls visit(terms, result) for the sums of a job's first object; result(sum) is what becomes of a sum.
+template <class T> using Visit = std::function<void(const std::vector<T>&, const std::function<T(T)>&)>;
+template <class T> void visitProducts(Typed<T>& job, const Visit<T>& visit) {
+  auto matrix = job["src1"], vector = job["src2"];
+  const bool adds = job.member().operands[2].name == "src3";
+  for (int i = 0; i < matrix.rows(); ++i) {
+    std::vector<T> terms;
+    for (int k = 0; k < matrix.cols(); ++k)
+      terms.push_back(matrix(0, i, k) * vector(0, k));
+    visit(terms, [&](T sum) { return adds ? sum + job["src3"](0, i) : sum; });
+  }
+}
+
+// Whether data of the kinds that a family runs with tells two sums of n terms apart.
+template <class T, class Sums>
+bool toldApart(const Member& m, int n, const Sums& sums, const std::function<T(const std::vector<T>&)>& one,
                const std::function<T(const std::vector<T>&)>& other) {
   Rng rng(5);
-  const bool adds = m.operands[2].name == "src3";
   for (int trial = 0; trial < 40; ++trial)
     for (int kind : m.family->dataKinds) {
       Job job(m, m.square(n, 3));
@@ -136,32 +153,28 @@ bool toldApart(const Member& m, int n, const std::function<T(const std::vector<T
         if (!m.operands[o].output)
           fillDense(job.operands[o], rng, kind);
       Typed<T> typed(job);
-      if constexpr (sizeof(T) == 4)
-        m.family->fill.single(typed, rng, kind);
-      else
+      if constexpr (sizeof(T) == 4) {
+        if (m.family->fill.single)
+          m.family->fill.single(typed, rng, kind);
+      } else if (m.family->fill.twofold) {
         m.family->fill.twofold(typed, rng, kind);
-      auto matrix = typed["src1"], vector = typed["src2"];
-      for (int i = 0; i < n; ++i) {
-        std::vector<T> terms;
-        for (int k = 0; k < n; ++k)
-          terms.push_back(matrix(0, i, k) * vector(0, k));
-        T a = one(terms), b = other(terms);
-        if (adds) {
-          a = a + typed["src3"](0, i);
-          b = b + typed["src3"](0, i);
-        }
-        if (!sameElement(reinterpret_cast<const unsigned char*>(&a), reinterpret_cast<const unsigned char*>(&b),
-                         sizeof(T), false, false))
-          return true;
       }
+      bool differ = false;
+      sums(typed, [&](const std::vector<T>& terms, const std::function<T(T)>& result) {
+        const T a = result(one(terms)), b = result(other(terms));
+        differ = differ || !sameElement(reinterpret_cast<const unsigned char*>(&a),
+                                        reinterpret_cast<const unsigned char*>(&b), sizeof(T), false, false);
+      });
+      if (differ)
+        return true;
     }
   return false;
 }
 
-// Every pair of different sums of the same length.
-template <class T> void checkDataTellsApart(const Member& m) {
+// Every pair of different sums of the same length. Where no term can be -0.0, a chain is the same from +0.0 on.
+template <class T, class Sums> void checkDataTellsApart(const Member& m, const Sums& sums, bool startShows = true) {
   for (int n = 3; n <= 6; ++n) {
-    std::vector<std::string> texts = {"zero chain"};
+    std::vector<std::string> texts(startShows ? 1 : 0, "zero chain");
     for (const SumRow& row : sumRows)
       for (const char* text : {row.of[n], row.last[n]})
         if (text != nullptr && *text != '\0' && std::find(texts.begin(), texts.end(), text) == texts.end())
@@ -176,9 +189,68 @@ template <class T> void checkDataTellsApart(const Member& m) {
     };
     for (size_t a = 0; a < texts.size(); ++a)
       for (size_t b = 0; b < a; ++b)
-        EXPECT_TRUE(toldApart<T>(m, n, evaluate(texts[a]), evaluate(texts[b])))
+        EXPECT_TRUE(toldApart<T>(m, n, sums, evaluate(texts[a]), evaluate(texts[b])))
             << m.name << " n " << n << ": " << texts[a] << " and " << texts[b];
   }
+}
+template <class T> void checkDataTellsApart(const Member& m) {
+  checkDataTellsApart<T>(m, visitProducts<T>);
+}
+
+// A long run in the two accumulators that its address gives it: the terms before the first multiple of 16 start lane 0
+// of the first. Runs that are too short, or can never be aligned, are added one by one from +0.0.
+template <class T> T longSum(uintptr_t address, const std::vector<T>& t) {
+  const size_t lanes = 16 / sizeof(T), lead = (16 - address % 16) % 16 / sizeof(T);
+  if (address % sizeof(T) != 0 || t.size() < lead + 8)
+    return sumOf("zero chain", 0, 0, 0, t);
+  const size_t end = t.size() - (t.size() - lead) % 8;
+  std::vector<T> a(lanes), b(lanes);
+  for (size_t k = 0; k < lead; ++k)
+    a[0] = a[0] + t[k];
+  for (size_t k = lead; k < end; ++k) {
+    std::vector<T>& lane = (k - lead) / lanes % 2 == 0 ? a : b;
+    lane[(k - lead) % lanes] = lane[(k - lead) % lanes] + t[k];
+  }
+  for (size_t w = 0; w < lanes; ++w)
+    a[w] = a[w] + b[w];
+  T sum = lanes == 4 ? (a[0] + a[1]) + (a[2] + a[3]) : a[0] + a[1];
+  for (size_t k = end; k < t.size(); ++k)
+    sum = sum + t[k];
+  return sum;
+}
+
+// Long and short runs of the single members at every address of `tested`, the other operands anywhere.
+inline void checkLongSums(const char* tested) {
+  Rng rng(3);
+  for (const Member& m : members())
+    for (int len = 1; !m.hasCount && m.layout == 'S' && len < 200; len += len < 45 ? 1 : 51)
+      for (int offset = 0; offset < 16; ++offset)
+        for (int kind : m.family->dataKinds) {
+          CaseSpec spec;
+          spec.id = "L";
+          spec.sizes = m.square(len, 1);
+          spec.dataKind = kind;
+          spec.seed = rng.next();
+          for (const OperandInfo& op : m.operands) {
+            Plan plan;
+            plan.atEnd = rng.chance(2);
+            plan.offset = op.name == tested ? offset : rng.below(16);
+            spec.plans.push_back(plan);
+          }
+          ASSERT_EQ("", runCase(m, spec)) << m.name << " len " << len << " offset " << offset;
+        }
+}
+
+// The data tells the long sums of every two alignments apart.
+template <class T, class Sums> void checkDataTellsLongSumsApart(const Member& m, const Sums& sums) {
+  for (int n : {11, 16, 17, 33})
+    for (uintptr_t a = 0; a <= 16; a += sizeof(T))
+      for (uintptr_t b = 0; b < a; b += sizeof(T)) {
+        const auto at = [](uintptr_t address) { // the last is no multiple of the element's size
+          return [=](const std::vector<T>& terms) { return longSum(address == 16 ? 1 : address, terms); };
+        };
+        EXPECT_TRUE(toldApart<T>(m, n, sums, at(a), at(b))) << m.name << " n " << n << ": " << a << " and " << b;
+      }
 }
 
 } // namespace zelmtest

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <set>
 
 namespace zelmtest {
 
@@ -15,7 +16,7 @@ public:
   enum Kind {
     Plain, // one accessible run between two guards
     Comb,  // accessible pages, each followed by a guard
-    Far,   // like Plain, many GiB, hardly ever touched
+    Far,   // many GiB of which only what is opened is accessible, so that a wrapped address faults
     Wild   // nothing accessible
   };
   explicit Arena(Kind kind);
@@ -27,11 +28,15 @@ public:
   // The accessible run that holds this address.
   unsigned char* runBegin(unsigned char* address) const;
   unsigned char* runEnd(unsigned char* address) const;
+  // Makes the page of an address in a Far arena accessible, and all that were inaccessible again.
+  void open(unsigned char* address);
+  void close();
 
 private:
   Kind kind_;
   unsigned char* begin_;
   size_t size_;
+  std::set<unsigned char*> open_;
 };
 
 // Arenas are made once and used again; slot is the operand's index.

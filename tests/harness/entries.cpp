@@ -61,3 +61,25 @@ __wrap_\name:
 
         .include "entries.inc"
 )");
+
+// The query of the cache size and the choice of a team, replaced in the same way.
+#include "paths.h"
+
+extern "C" void __real_zelGetMaxCacheSizeB(int32_t* bytes);
+extern "C" void __wrap_zelGetMaxCacheSizeB(int32_t* bytes);
+extern "C" void __wrap_zelGetMaxCacheSizeB(int32_t* bytes) {
+  ++zelmtest::cacheQueries;
+  if (zelmtest::cacheSize == zelmtest::systemsCache)
+    __real_zelGetMaxCacheSizeB(bytes);
+  else if (zelmtest::cacheSize != 0) // as a system that cannot tell
+    *bytes = zelmtest::cacheSize;
+}
+
+extern "C" int32_t __real_ownGetTeamSize(int32_t threads, double additions);
+extern "C" int32_t __wrap_ownGetTeamSize(int32_t threads, double additions);
+extern "C" int32_t __wrap_ownGetTeamSize(int32_t threads, double additions) {
+  const int32_t chosen = __real_ownGetTeamSize(threads, additions);
+  if (zelmtest::teamSize == zelmtest::librarysChoice)
+    return chosen;
+  return threads < zelmtest::teamSize ? threads : zelmtest::teamSize;
+}

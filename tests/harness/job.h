@@ -36,6 +36,7 @@ struct Dense {
   std::vector<unsigned char> bytes;
   std::vector<State> states; // of a result's elements after the call; what a reference does not set stays Untouched
   const unsigned char* address = nullptr; // of element (0,0) of object 0 in the call
+  int32_t stride0 = 0, stride1 = 0;       // as the call is told, where the operand has them
 
   size_t perObject() const { return static_cast<size_t>(rows) * static_cast<size_t>(cols); }
   size_t position(int object, int row, int col) const {
@@ -53,6 +54,8 @@ public:
   int rows() const { return dense_->transposed ? dense_->cols : dense_->rows; }
   int cols() const { return dense_->transposed ? dense_->rows : dense_->cols; }
   const unsigned char* address() const { return dense_->address; }
+  int32_t stride0() const { return dense_->stride0; }
+  int32_t stride1() const { return dense_->stride1; }
   T operator()(int k, int i, int j) const {
     T value;
     std::memcpy(&value, &dense_->bytes[at(k, i, j) * sizeof(T)], sizeof(T));
@@ -65,6 +68,8 @@ public:
     dense_->states[at(k, i, j)] = State::Set;
   }
   void set(int k, int j, T value) { set(k, 0, j, value); }
+  // The call leaves this element as it is.
+  void leave(int k, int i, int j) { dense_->states[at(k, i, j)] = State::Untouched; }
   // The call may leave anything in this element.
   void free(int k, int i, int j) { dense_->states[at(k, i, j)] = State::Free; }
 

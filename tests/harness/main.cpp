@@ -7,10 +7,12 @@
 #include <xmmintrin.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace zelmtest {
 const bool countedBuild = ZELMTEST_COUNTED != 0;
 void registerChecks();
+size_t ranCases();
 } // namespace zelmtest
 
 int main(int argc, char** argv) {
@@ -25,5 +27,15 @@ int main(int argc, char** argv) {
   omp_set_num_threads(1);
   zelmtest::installCrashReport();
   zelmtest::registerChecks();
-  return RUN_ALL_TESTS();
+  const int result = RUN_ALL_TESTS();
+  // What looks at nothing has not passed.
+  if (testing::UnitTest::GetInstance()->test_to_run_count() == 0) {
+    std::printf("no test has been run\n");
+    return 1;
+  }
+  if (std::getenv("ZELM_REPLAY") != nullptr && zelmtest::ranCases() == 0) {
+    std::printf("no such case: ZELM_REPLAY=%s\n", std::getenv("ZELM_REPLAY"));
+    return 1;
+  }
+  return result;
 }

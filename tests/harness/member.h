@@ -145,7 +145,7 @@ struct Form {
   // "src1:ma src2:m dst:ma width height count". Kinds behind the colon: m t v c, ma ta va ca; r one plain element per
   // object, e widthHeight plain elements per object, x plain packed objects of the family's shape, i and I widthHeight
   // plain integers per object that are read or written, b the buffer (free after a call without threads, else
-  // untouched).
+  // untouched), y a buffer of bytes, which may lie at any address.
   const char* tokens;
   Orders orders;
   const char* inPlace = ""; // sources that dst may be the same memory as, with equal strides
@@ -168,9 +168,17 @@ struct Family {
   Fills fill = {};                                                   // changes the inputs that the default filled
   std::vector<int> dataKinds = {0, 0, 1, 2, 3, 4};                   // see fillDense
   bool movesBits = false;                                            // NaN payloads are results
+  bool hasKernels = true;                                            // false: the exported functions work themselves
   bool stopsAtFailure = true;                                        // a failing object ends its share
   // The kernel that a member's own one calls for each object; none if empty. Member::kernelOfOne spells it.
   std::function<std::string(const Member&, const Sizes&, bool unit)> delegate = nullptr;
+  std::vector<std::string> inner = {}; // what the delegate may enter, any number of times
+  // The kernel that a member's own one calls once for all its objects; none if empty.
+  std::function<std::string(const Job&)> delegateOfAll = nullptr;
+  // Calls that the exported function finishes by itself, without a kernel.
+  std::function<bool(const Sizes&)> needsNoKernel = nullptr;
+  // Whether what the form says of in place holds for these sizes; by default it does for all.
+  std::function<bool(const Member&, const Sizes&)> worksInPlace = nullptr;
   std::map<std::string, std::function<void(Member&)>> exceptions = {}; // members that deviate from their form's row
 };
 
@@ -188,7 +196,7 @@ struct Argument {
 struct OperandInfo {
   std::string name, kind;
   char layout;
-  bool array, transposed, output, integer, plain, value;
+  bool array, transposed, output, integer, plain, value, scratch;
   bool listed() const {
     return !plain && !value && kind != "ca" ? layout == 'P' || (layout == 'L' && array) : layout == 'L' && kind == "ca";
   }
@@ -214,6 +222,8 @@ struct Member {
   int operandIndex(std::string_view operand) const;
   bool agrees(const Sizes& sizes) const { return !family->agrees || family->agrees(*this, sizes); }
   bool goesToFront(bool unit, const Sizes& sizes) const;
+  bool canFail() const; // the kernel: an object may have a status of its own
+  bool needsNoKernel(const Sizes& sizes) const { return family->needsNoKernel && family->needsNoKernel(sizes); }
   std::string kernelOfOne(const char* suffix) const; // "ownzelmAdd_mm_32f_S2" of zelmAdd_mama_32f_L and "_S2"
   Shape storedShape(const OperandInfo& operand, const Sizes& sizes) const;
   Sizes square(int n, int32_t count) const; // all sizes n

@@ -27,6 +27,10 @@ extern "C" void zelmtestEntered(const char* name) {
 
 namespace zelmtest {
 
+int cacheQueries = 0;
+int32_t cacheSize = systemsCache;
+int teamSize = allThreads;
+
 void clearEntries() {
   used = 0;
 }

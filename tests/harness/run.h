@@ -4,6 +4,7 @@
 
 #include "arena.h"
 #include "job.h"
+#include "paths.h"
 
 namespace zelmtest {
 
@@ -27,7 +28,7 @@ struct Plan {
   Spread spread = Spread::Packed;
   bool atEnd = true; // flush with the guard behind, else with the one before
   int offset = -1;   // of the first element from a multiple of 16; -1 leaves it flush
-  bool far = false;  // strides of a GiB
+  char far = 0;      // the axis whose strides are of more than a GiB: k objects, i rows, j columns
   int shiftElements = 0;
 };
 
@@ -40,7 +41,8 @@ struct CaseSpec {
   int inPlace = -1;        // the source that dst is
   int dataKind = 0;
   int threads = 1;
-  Team team = Team::Plain;
+  int team = allThreads; // those that run the threads' shares; all of them if there are not so many
+  Team kind = Team::Plain;
   uint64_t seed = 0;
 };
 

@@ -44,12 +44,20 @@ def main():
     faults += ["needs " + name for name in sorted(needed - NEEDED)]
     if not needed & {"libgomp.so.1", "libomp.so.5"}:
         faults.append("needs no OpenMP runtime")
+    # Statuses of several threads are merged one at a time.
+    if not re.search(r" (GOMP_critical_start|__kmpc_critical)\b", run("nm", "-D", "--undefined-only", library)):
+        faults.append("enters no critical section")
     if re.findall(r"\(SONAME\).*\[(.*)\]", dynamic) != [SONAME]:
         faults.append("its SONAME is not " + SONAME)
     if not re.search(r"\(FLAGS\).*BIND_NOW|\(FLAGS_1\).*\bNOW\b", dynamic):
         faults.append("is bound lazily")
     if "TEXTREL" in dynamic:
         faults.append("has relocations in its text")
+
+    # Results are pinned: no product is fused with a sum, whatever the compiler thinks it may do.
+    fused = re.findall(r"\t(vfn?m\w+)", run("objdump", "-d", "--no-show-raw-insn", library))
+    if fused:
+        faults.append("has %d fused instructions, such as %s" % (len(fused), fused[0]))
 
     symbols = run("readelf", "-sW", library)
     relro = None

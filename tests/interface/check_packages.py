@@ -15,16 +15,18 @@ def run(*command, **options):
 
 def main():
     parser = argparse.ArgumentParser()
-    for option in ("cpack", "build", "work", "libdir", "header"):
+    for option in ("cpack", "build", "work", "libdir", "header", "widths"):
         parser.add_argument("--" + option, required=True)
     arguments = parser.parse_args()
     lib = "usr/" + arguments.libdir + "/"
     with open(arguments.header, encoding="ascii") as file:
         functions = set(re.findall(r"\b(zelm\w+)\(", re.sub(r"/\*.*?\*/", "", file.read(), flags=re.S)))
     forms = {re.sub(r"_(32f|64f)(_\w+)?$", "", name) for name in functions}
-    pages = {"usr/share/man/man3/%s.3" % name for name in functions | forms | {"zelm"}}
+    families = {form.split("_")[0] for form in forms}
+    pages = {"usr/share/man/man3/%s.3" % name for name in functions | forms | families | {"zelm"}}
     expected = {
-        "libzelmn8": {lib + "libzelmn8.so.6.1", lib + "glibc-hwcaps/x86-64-v3/libzelmn8.so.6.1"},
+        "libzelmn8": {lib + "libzelmn8.so.6.1"} | {lib + "glibc-hwcaps/x86-64-%s/libzelmn8.so.6.1" % width
+                                                   for width in arguments.widths.split(";")},
         "libzelmn8-dev": pages | {"usr/include/zelm.h"} | {lib + name for name in (
             "libzelmn8.so", "libzelmn8.a", "pkgconfig/zelm.pc", "cmake/zelm/zelm-config.cmake",
             "cmake/zelm/zelm-config-version.cmake", "cmake/zelm/zelm-targets.cmake",
