@@ -70,7 +70,7 @@ const Level levels[] = {{"L1", 24.0 * 1024}, {"L2", 512.0 * 1024}, {"mem", 192.0
 // One block of address space for the operands of all cases, so that they need not be faulted in anew for each.
 char* arena() {
   static char* const memory = [] {
-    void* got = mmap(nullptr, 224U << 20, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    void* got = mmap(nullptr, 640U << 20, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (got == MAP_FAILED) {
       std::perror("zelm_bench: mmap");
       std::exit(EXIT_FAILURE);
@@ -451,10 +451,15 @@ int main(int argc, char** argv) {
   omp_set_num_threads(1);
   bench::registerAdd();
   bench::registerCholesky();
+  bench::registerEigen();
+  bench::registerEigenSym();
   bench::registerLu();
+  bench::registerMeasures();
   bench::registerQR();
   bench::registerMulMatrices();
   bench::registerMulVectors();
+  bench::registerVectors();
+  bench::registerMoves();
   benchmark::Initialize(&number, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(number, arguments.data()))
     return EXIT_FAILURE;

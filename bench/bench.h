@@ -103,10 +103,15 @@ std::vector<Contender> library(const std::array<const char*, sizeof...(Functions
 // Run by main before the benchmarks, one for each family.
 void registerAdd();
 void registerCholesky();
+void registerEigen();
+void registerEigenSym();
 void registerLu();
+void registerMeasures();
 void registerQR();
 void registerMulMatrices();
 void registerMulVectors();
+void registerVectors();
+void registerMoves();
 
 } // namespace bench
 
