@@ -1,204 +1,200 @@
 #include "fit.h"
 #include "check.h"
-#include <algorithm>
-#include <exception>
-#include <limits>
-#include <numeric>
+#include "frames.h"
+#include "orient.h"
 
 namespace {
 
 constexpr int32_t side = 6;
-constexpr int32_t matrixBytes = side * side * 8, rowBytes = side * 8, vectorBytes = side * 8;
-using Matrix6 = std::array<double, 36>;
+// A point's row: its height above the tangent plane, then the terms of the quadric, 1, x, y, x^2, x y, y^2.
+enum Column { Height, Terms, X = Terms + 1, Y, Squares, Columns = Squares + 3, Pitch = 8 };
+constexpr int32_t rowBytes = Pitch * 8, matrixBytes = Columns * rowBytes;
 
-// Vertices whose tall matrices are in hand at a time: they stay in the cache between the steps.
-constexpr size_t blockSize = 128;
+// What a thread needs for a batch. All of it stays in the cache from one step to the next.
+class Fitter {
+public:
+  Fitter(const std::vector<Point4>& allPoints, const Neighbours& near, const Batches& all,
+         const std::vector<Vec3>& around, Surface& result, StepTimes* laps)
+      : points(allPoints), neighbours(near), batches(all), faces(around), surface(result), times(laps),
+        gathered(mostInBatch * (mostNeighbours + 1)), rows(gathered.size()), toFrame(mostInBatch), half(mostInBatch),
+        matrices(mostInBatch), factors(mostInBatch), quadrics(mostInBatch), normals(mostInBatch), turned(mostInBatch),
+        solvers(mostInBatch) {}
 
-// The points of a group, or of a part of one, in their frames, as rows of tall matrices and heights above the tangent
-// plane.
-void tallSystems(const Problem& problem, const Problem::Group& group, std::vector<Vec3>& local,
-                 std::vector<double>& rows, std::vector<double>& heights) {
-  const auto h = int32_t(group.height);
-  const size_t points = group.count * group.height;
-  local.resize(std::max(local.size(), points));
-  rows.resize(std::max(rows.size(), points * side));
-  heights.resize(std::max(heights.size(), points));
-  // (points as rows) times transpose(frame)
-  check(zelmMul_mata_64f(&problem.points[group.offset][0], h * 24, 24, 8, 3, h, &problem.frames[group.first][0][0], 72,
-                         24, 8, 3, 3, &local[0][0], h * 24, 24, 8, int32_t(group.count)),
-        "zelmMul_mata_64f");
-  for (size_t i = 0; i < points; ++i) {
-    quadricRow(local[i][0], local[i][1], &rows[i * side]);
-    heights[i] = local[i][2];
+  void operator()(const Batch& batch) {
+    gatherBatch(points, neighbours, batches, batch, gathered.data());
+    lap(Step::Gathering);
+    frames.find(batch, gathered);
+    makeFrames(batch);
+    lap(Step::Frames);
+    if (size_t(batch.height) < leastPoints)
+      return;
+    makeRows(batch);
+    lap(Step::Rows);
+    makeEquations(batch);
+    lap(Step::NormalEquations);
+    solve(batch);
+    lap(Step::Solutions);
+    finish(batch);
+    lap(Step::Curvatures);
   }
-}
 
-// Blocks are independent of each other, so they are what the threads share here, in one region for all.
-void normalEquations(const Problem& problem, std::vector<Matrix6>& matrices, std::vector<Quadric>& sides) {
-  std::vector<Problem::Group> blocks;
-  for (const Problem::Group& group : problem.groups)
-    for (size_t done = 0; done < group.count; done += blockSize)
-      blocks.push_back({group.first + done, std::min(blockSize, group.count - done), group.height,
-                        group.offset + done * group.height});
-  std::exception_ptr error;
-#pragma omp parallel
-  {
-    std::vector<Vec3> local;
-    std::vector<double> rows, heights;
-#pragma omp for schedule(dynamic)
-    for (size_t i = 0; i < blocks.size(); ++i)
-      try {
-        const Problem::Group& block = blocks[i];
-        const auto h = int32_t(block.height), count = int32_t(block.count);
-        tallSystems(problem, block, local, rows, heights);
-        check(zelmMul_tama_64f(rows.data(), h * rowBytes, rowBytes, 8, side, h, rows.data(), h * rowBytes, rowBytes, 8,
-                               side, h, matrices[block.first].data(), matrixBytes, rowBytes, 8, count),
-              "zelmMul_tama_64f");
-        check(zelmMul_tava_64f(rows.data(), h * rowBytes, rowBytes, 8, side, h, heights.data(), h * 8, 8, h,
-                               sides[block.first].data(), vectorBytes, 8, count),
-              "zelmMul_tava_64f");
-      } catch (...) {
-#pragma omp critical
-        error = std::current_exception();
-      }
+private:
+  struct alignas(64) Row {
+    double element[Pitch];
+    double& operator[](size_t i) { return element[i]; }
+    const double& operator[](size_t i) const { return element[i]; }
+  };
+  using Equations = std::array<Row, Columns>;
+  using Factor = std::array<std::array<double, side>, side>;
+
+  void lap(Step step) {
+    if (times)
+      times->done(step);
   }
-  if (error)
-    std::rethrow_exception(error);
-}
 
-ZelStatus decompose(const Matrix6* matrices, Matrix6* factors, size_t count) {
-  return zelmCholeskyDecomp_ma_64f(matrices->data(), matrixBytes, rowBytes, 8, factors->data(), matrixBytes, rowBytes,
-                                   8, side, int32_t(count));
-}
+  SurfacePoint& pointOf(const Batch& batch, size_t k) { return surface[size_t(batches.order[batch.first + k])]; }
 
-// Factorises all matrices in one batch, into factors that are zero, and returns which are not positive definite.
-std::vector<size_t> choleskyFactors(const std::vector<Matrix6>& matrices, std::vector<Matrix6>& factors) {
-  const size_t count = matrices.size();
-  std::vector<size_t> failed;
-  // A call stops at the first matrix that fails, on several threads each share at its first, and does not tell which
-  // that is. But the last diagonal element of a finished factor is a reciprocal: one that is still zero is not
-  // finished.
-  const auto finished = [&](size_t k) { return factors[k].back() != 0; };
-  if (decompose(matrices.data(), factors.data(), count) != zelStatusOk) {
-    // The rest goes on in batches that stay on one thread: what fails is the first that is not finished behind the
-    // call.
-    constexpr size_t batch = 2000 / (side * side);
-    for (size_t first = 0; first < count;) {
-      if (finished(first)) {
-        ++first;
-        continue;
+  // Matrices that make (z, 1, x, y) in a frame of (1, x, y, z), by their transpositions, in units of the radius. The
+  // normal is that of the frame until there is a better one; 0 if there is no frame.
+  void makeFrames(const Batch& batch) {
+    for (size_t k = 0; k < batch.count; ++k) {
+      SurfacePoint& point = pointOf(batch, k);
+      const Vec3 variances = frames.variances(k);
+      Matrix3 axes = frames.axes(k);
+      point.radius = frames.radius(k);
+      point.thickness = variances[2];
+      if (!hasPlane(variances)) {
+        const Vec3& normal = faces[size_t(batches.order[batch.first + k])];
+        axes = tellsSide(normal, point.radius) ? frameOf(unit(normal)) : Matrix3{};
       }
-      const size_t size = std::min(batch, count - first);
-      if (decompose(&matrices[first], &factors[first], size) == zelStatusOk) {
-        first += size;
-        continue;
-      }
-      while (finished(first))
-        ++first;
-      failed.push_back(first++);
+      point.normal = {axes[0][2], axes[1][2], axes[2][2]};
+      const double scale = 1 / point.radius;
+      toFrame[k][0] = {{0, 1, 0, 0}};
+      for (size_t i = 0; i < 3; ++i)
+        toFrame[k][i + 1] = {{scale * axes[i][2], 0, scale * axes[i][0], scale * axes[i][1]}};
     }
   }
-  for (size_t k = 0; k < count; ++k) {
-    bool poor = false;
-    for (size_t i = 0; i < side; ++i) {
-      const double reciprocal = factors[k][i * (side + 1)]; // 1 / root of the pivot
-      poor |= !(reciprocal * reciprocal * leastPivot < 1);
-    }
-    if (poor && finished(k))
-      failed.push_back(k);
-  }
-  return failed;
-}
 
-bool fitByQR(const Problem& problem, size_t place, Quadric& quadric) {
-  const auto group = std::find_if(problem.groups.begin(), problem.groups.end(),
-                                  [&](const Problem::Group& g) { return place < g.first + g.count; });
-  const auto h = int32_t(group->height);
-  std::vector<Vec3> local;
-  std::vector<double> rows, heights, buffer(group->height);
-  tallSystems(problem, {place, 1, group->height, group->offset + (place - group->first) * group->height}, local, rows,
-              heights);
-  if (zelmQRDecomp_m_64f(rows.data(), rowBytes, 8, buffer.data(), rows.data(), rowBytes, 8, side, h) != zelStatusOk)
-    return false;
-  check(zelmQRBackSubst_mv_64f(rows.data(), rowBytes, 8, buffer.data(), heights.data(), 8, quadric.data(), 8, side, h),
-        "zelmQRBackSubst_mv_64f");
-  return true;
-}
+  void makeRows(const Batch& batch) {
+    const auto height = size_t(batch.height);
+    for (size_t k = 0; k < batch.count; ++k)
+      check(zelmMul_tva_64f(toFrame[k][0].element, 32, 8, 4, 4, gathered[k * height].element, 32, 8, 4,
+                            &rows[k * height][Height], rowBytes, 8, batch.height),
+            "zelmMul_tva_64f");
+    for (size_t i = 0; i < batch.count * height; ++i) {
+      Row& row = rows[i];
+      row[Squares] = row[X] * row[X];
+      row[Squares + 1] = row[X] * row[Y];
+      row[Squares + 2] = row[Y] * row[Y];
+    }
+  }
+
+  // The products of the terms with all columns: the symmetric matrix, and in the first column the right side. Only the
+  // blocks on and below the diagonal are made, which is what Cholesky reads. Of them the products of 1, x and y are
+  // the frames' sums, brought into the frame from both sides.
+  void makeEquations(const Batch& batch) {
+    const int32_t stride = batch.height * rowBytes, count = int32_t(batch.count);
+    const double *squares = &rows[0][Squares], *all = &rows[0][Height];
+    check(zelmMul_tama_64f(squares, stride, rowBytes, 8, 3, batch.height, all, stride, rowBytes, 8, Columns,
+                           batch.height, &matrices[0][Squares][0], matrixBytes, rowBytes, 8, count),
+          "zelmMul_tama_64f");
+    check(zelmMul_tama_64f(toFrame[0][0].element, 128, 32, 8, 4, 4, frames.sums()[0][0].element, 128, 32, 8, 4, 4,
+                           half[0][0].element, 128, 32, 8, count),
+          "zelmMul_tama_64f");
+    check(zelmMul_mama_64f(half[0][0].element, 128, 32, 8, 4, 4, toFrame[0][0].element, 128, 32, 8, 4, 4,
+                           &matrices[0][0][0], matrixBytes, rowBytes, 8, count),
+          "zelmMul_mama_64f");
+  }
+
+  ZelStatus decompose(size_t first, size_t count) {
+    return zelmCholeskyDecomp_ma_64f(&matrices[first][Terms][Terms], matrixBytes, rowBytes, 8, &factors[first][0][0],
+                                     sizeof(Factor), side * 8, 8, side, int32_t(count));
+  }
+
+  // A call stops at the first matrix that fails and does not tell which. But the last diagonal element of a finished
+  // factor is a reciprocal: one that is still zero is not finished.
+  void factorise(const Batch& batch) {
+    for (size_t k = 0; k < batch.count; ++k)
+      factors[k][side - 1][side - 1] = 0;
+    for (size_t first = 0; first < batch.count;) {
+      if (decompose(first, batch.count - first) == zelStatusOk)
+        break;
+      while (factors[first][side - 1][side - 1] != 0)
+        ++first;
+      factors[first++] = {}; // what a failed decomposition leaves must not be passed on
+    }
+    for (size_t k = 0; k < batch.count; ++k) {
+      bool good = true;
+      for (size_t i = 0; i < side; ++i) {
+        const double reciprocal = factors[k][i][i]; // 1 / root of the pivot
+        good &= reciprocal != 0 && reciprocal * reciprocal * leastPivot < 1;
+      }
+      solvers[k] = good ? Solver::Cholesky : Solver::None;
+    }
+  }
+
+  void solve(const Batch& batch) {
+    factorise(batch);
+    check(zelmCholeskyBackSubst_mava_64f(&factors[0][0][0], sizeof(Factor), side * 8, 8, &matrices[0][Terms][Height],
+                                         matrixBytes, rowBytes, quadrics[0].data(), sizeof(Quadric), 8, side,
+                                         int32_t(batch.count)),
+          "zelmCholeskyBackSubst_mava_64f");
+    for (size_t k = 0; k < batch.count; ++k)
+      if (solvers[k] == Solver::None)
+        solvers[k] = solveByQR(k, batch.height);
+  }
+
+  Solver solveByQR(size_t k, int32_t height) {
+    const Row& first = rows[k * size_t(height)];
+    std::vector<double> tall(size_t(height) * side), buffer(static_cast<size_t>(height));
+    if (zelmQRDecomp_m_64f(&first[Terms], rowBytes, 8, buffer.data(), tall.data(), side * 8, 8, side, height) !=
+        zelStatusOk)
+      return Solver::None;
+    // The last column of a square matrix is not tested there.
+    if (const double last = tall.back(); height == side && last * last < leastSquare)
+      return Solver::None;
+    check(zelmQRBackSubst_mv_64f(tall.data(), side * 8, 8, buffer.data(), &first[Height], rowBytes, quadrics[k].data(),
+                                 8, side, height),
+          "zelmQRBackSubst_mv_64f");
+    return Solver::QR;
+  }
+
+  void finish(const Batch& batch) {
+    for (size_t k = 0; k < batch.count; ++k) {
+      SurfacePoint& point = pointOf(batch, k);
+      // A quadric in a frame that is none is left alone.
+      point.solver = point.normal == Vec3{} ? Solver::None : solvers[k];
+      const Vec3 normal = point.solver == Solver::None ? Vec3{0, 0, 1} : putQuadric(point, quadrics[k]);
+      normals[k] = {{point.radius * normal[2], 0, point.radius * normal[0], point.radius * normal[1]}};
+    }
+    // Back into the scan's axes.
+    check(zelmMul_mava_64f(toFrame[0][0].element, sizeof(Matrix4), 32, 8, 4, 4, normals[0].element, 32, 8, 4,
+                           turned[0].element, 32, 8, int32_t(batch.count)),
+          "zelmMul_mava_64f");
+    for (size_t k = 0; k < batch.count; ++k)
+      pointOf(batch, k).normal = {turned[k][1], turned[k][2], turned[k][3]};
+  }
+
+  const std::vector<Point4>& points;
+  const Neighbours& neighbours;
+  const Batches& batches;
+  const std::vector<Vec3>& faces;
+  Surface& surface;
+  StepTimes* times;
+  std::vector<Point4> gathered;
+  PrincipalFrames frames;
+  std::vector<Row> rows;
+  std::vector<Matrix4> toFrame, half;
+  std::vector<Equations> matrices;
+  std::vector<Factor> factors;
+  std::vector<Quadric> quadrics;
+  std::vector<Point4> normals, turned;
+  std::vector<Solver> solvers;
+};
 
 } // namespace
 
-Problem makeProblem(const Mesh& mesh, const std::vector<Matrix3>& frames, const Neighbours& neighbours) {
-  const auto size = [&](int32_t v) { return neighbours.first[size_t(v) + 1] - neighbours.first[size_t(v)]; };
-  Problem problem;
-  for (size_t v = 0; v < mesh.points.size(); ++v)
-    if (size(int32_t(v)) + 1 >= side && frames[v] != Matrix3{})
-      problem.vertex.push_back(int32_t(v));
-  std::stable_sort(problem.vertex.begin(), problem.vertex.end(),
-                   [&](int32_t a, int32_t b) { return size(a) < size(b); });
-  for (int32_t vertex : problem.vertex) {
-    const auto v = size_t(vertex);
-    if (problem.groups.empty() || problem.groups.back().height != size(vertex) + 1)
-      problem.groups.push_back({problem.radius.size(), 0, size(vertex) + 1, problem.points.size()});
-    ++problem.groups.back().count;
-    const size_t first = problem.points.size();
-    double radius = 0;
-    problem.points.push_back({});
-    for (size_t i = neighbours.first[v]; i < neighbours.first[v + 1]; ++i) {
-      problem.points.push_back(mesh.points[size_t(neighbours.index[i])] - mesh.points[v]);
-      radius = std::max(radius, length(problem.points.back()));
-    }
-    for (size_t i = first; i < problem.points.size(); ++i)
-      problem.points[i] = (1 / radius) * problem.points[i];
-    problem.radius.push_back(radius);
-    problem.frames.push_back(frames[v]);
-  }
-  return problem;
-}
-
-void fitByLibrary(const Problem& problem, Fits& fits) {
-  const size_t count = problem.vertex.size();
-  if (count == 0)
-    return;
-  std::vector<Matrix6> matrices(count), factors(count);
-  normalEquations(problem, matrices, fits.quadrics);
-  const std::vector<size_t> failed = choleskyFactors(matrices, factors);
-  for (size_t place : failed) // what a failed decomposition leaves must not be passed on
-    factors[place] = Matrix6{};
-  check(zelmCholeskyBackSubst_mava_64f(factors[0].data(), matrixBytes, rowBytes, 8, fits.quadrics[0].data(),
-                                       vectorBytes, 8, fits.quadrics[0].data(), vectorBytes, 8, side, int32_t(count)),
-        "zelmCholeskyBackSubst_mava_64f");
-  std::fill(fits.solvers.begin(), fits.solvers.end(), Solver::Cholesky);
-  for (size_t place : failed)
-    if (fitByQR(problem, place, fits.quadrics[place]))
-      fits.solvers[place] = Solver::QR;
-    else {
-      fits.solvers[place] = Solver::None;
-      fits.quadrics[place] = {};
-    }
-}
-
-Surface makeSurface(const Problem& problem, const Fits& fits, const std::vector<Matrix3>& frames) {
-  const size_t count = problem.vertex.size();
-  Surface surface;
-  surface.curvature.assign(frames.size(), std::numeric_limits<double>::quiet_NaN());
-  for (const Matrix3& frame : frames)
-    surface.normals.push_back(frame[2]);
-  if (count == 0)
-    return surface;
-  std::vector<Vec3> local(count), normals(count);
-  for (size_t k = 0; k < count; ++k) {
-    const auto [a, b, c, d, e, f] = fits.quadrics[k];
-    const double w = 1 + d * d + e * e;
-    local[k] = (1 / std::sqrt(w)) * Vec3{-d, -e, 1};
-    if (fits.solvers[k] != Solver::None)
-      surface.curvature[size_t(problem.vertex[k])] =
-          -((1 + e * e) * a - d * e * b + (1 + d * d) * c) / (w * std::sqrt(w) * problem.radius[k]);
-  }
-  // Back into the mesh's axes: transpose(frame) times normal.
-  check(zelmMul_tava_64f(&problem.frames[0][0][0], 72, 24, 8, 3, 3, &local[0][0], 24, 8, 3, &normals[0][0], 24, 8,
-                         int32_t(count)),
-        "zelmMul_tava_64f");
-  for (size_t k = 0; k < count; ++k)
-    surface.normals[size_t(problem.vertex[k])] = normals[k];
-  return surface;
+void fitQuadrics(const std::vector<Point4>& points, const Neighbours& neighbours, const Batches& batches,
+                 const std::vector<Vec3>& faces, Surface& surface, Progress& progress, StepTimes* times) {
+  forBatches(batches, progress, [&] { return Fitter(points, neighbours, batches, faces, surface, times); });
 }

@@ -1,57 +1,51 @@
 #include "frames.h"
 #include "check.h"
+#include <algorithm>
 
-std::vector<Matrix3> triangleCorners(const Mesh& mesh) {
-  std::vector<Matrix3> corners;
-  corners.reserve(mesh.triangles.size());
-  for (const Triangle& t : mesh.triangles)
-    corners.push_back({mesh.points[size_t(t[0])], mesh.points[size_t(t[1])], mesh.points[size_t(t[2])]});
-  return corners;
+namespace {
+
+// The covariance matrix relative to its trace, and the unit matrix added. Its eigenvectors are the same; its
+// eigenvalues, 1 more and so between 1 and 2, are far from what the solver takes for singular.
+Matrix3 shifted(const Matrix4& moments) {
+  const double share = 1 / moments[0][0]; // of one point
+  Matrix3 matrix;
+  double trace = 0;
+  for (size_t i = 0; i < 3; ++i) {
+    for (size_t j = 0; j < 3; ++j)
+      matrix[i][j] = moments[i + 1][j + 1] - share * moments[0][i + 1] * moments[0][j + 1];
+    trace += matrix[i][i];
+  }
+  const double scale = trace > 1e-280 ? 1 / trace : 0; // points that are so near are one
+  for (size_t i = 0; i < 3; ++i)
+    for (size_t j = 0; j < 3; ++j)
+      matrix[i][j] = scale * matrix[i][j] + (i == j);
+  return matrix;
 }
 
-void edgesByLibrary(const std::vector<Matrix3>& corners, std::vector<Matrix3>& edges) {
-  static const double differences[3][3] = {{-1, 1, 0}, {0, -1, 1}, {1, 0, -1}};
-  edges.resize(corners.size());
-  if (!corners.empty())
-    check(zelmMul_mma_64f(&differences[0][0], 24, 8, 3, 3, &corners[0][0][0], 72, 24, 8, 3, 3, &edges[0][0][0], 72, 24,
-                          8, int32_t(corners.size())),
-          "zelmMul_mma_64f");
+} // namespace
+
+void PrincipalFrames::find(const Batch& batch, const std::vector<Point4>& gathered) {
+  const auto count = int32_t(batch.count);
+  const double* const rows = gathered[0].element;
+  check(zelmMul_tama_64f(rows, batch.height * 32, 32, 8, 4, batch.height, rows, batch.height * 32, 32, 8, 4,
+                         batch.height, moments[0][0].element, 128, 32, 8, count),
+        "zelmMul_tama_64f");
+  for (size_t k = 0; k < batch.count; ++k) {
+    const Matrix4& m = moments[k];
+    matrices[k] = shifted(m);
+    radii[k] = std::sqrt(2 * (m[1][1] + m[2][2] + m[3][3]) / m[0][0]);
+  }
+  Matrix3 buffer;
+  check(zelmEigenValuesVectorsSym_ma_64f(&matrices[0][0][0], 72, 24, 8, &buffer[0][0], &vectors[0][0][0], 72, 24, 8,
+                                         &values[0][0], 3, count),
+        "zelmEigenValuesVectorsSym_ma_64f");
 }
 
-void edgesByLoop(const std::vector<Matrix3>& corners, std::vector<Matrix3>& edges) {
-  edges.resize(corners.size());
-  for (size_t k = 0; k < corners.size(); ++k) {
-    const Matrix3& c = corners[k];
-    edges[k] = {c[1] - c[0], c[2] - c[1], c[0] - c[2]};
-  }
-}
-
-std::vector<Matrix3> vertexFrames(const Mesh& mesh, const std::vector<Matrix3>& edges) {
-  std::vector<Vec3> sums(mesh.points.size(), Vec3{}), any = sums;
-  for (size_t k = 0; k < edges.size(); ++k) {
-    const Matrix3& e = edges[k];
-    const Vec3 area = cross(e[0], e[1]), normal = unit(area);
-    if (!(length(normal) > 0))
-      continue;
-    for (size_t c = 0; c < 3; ++c) {
-      const auto vertex = size_t(mesh.triangles[k][c]);
-      sums[vertex] = sums[vertex] + std::atan2(length(area), -dot(e[c], e[(c + 2) % 3])) * normal;
-      any[vertex] = normal;
-    }
-  }
-  std::vector<Matrix3> frames(mesh.points.size(), Matrix3{});
-  for (size_t v = 0; v < frames.size(); ++v) {
-    // Faces back to back cancel; one of them will do.
-    const Vec3 normal = unit(length(sums[v]) > 1e-6 ? sums[v] : any[v]);
-    if (!(length(normal) > 0))
-      continue;
-    const size_t least = std::abs(normal[0]) < std::abs(normal[1])
-                             ? (std::abs(normal[0]) < std::abs(normal[2]) ? 0 : 2)
-                             : (std::abs(normal[1]) < std::abs(normal[2]) ? 1 : 2);
-    Vec3 axis{};
-    axis[least] = 1;
-    const Vec3 tangent = unit(cross(axis, normal));
-    frames[v] = {tangent, cross(normal, tangent), normal};
-  }
-  return frames;
+Matrix3 frameOf(const Vec3& normal) {
+  Vec3 axis{};
+  axis[size_t(
+      std::min_element(normal.begin(), normal.end(), [](double a, double b) { return std::abs(a) < std::abs(b); }) -
+      normal.begin())] = 1;
+  const Vec3 x = unit(cross(axis, normal)), y = cross(normal, x);
+  return {Vec3{x[0], y[0], normal[0]}, Vec3{x[1], y[1], normal[1]}, Vec3{x[2], y[2], normal[2]}};
 }

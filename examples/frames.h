@@ -1,21 +1,42 @@
-// Local frames of a mesh's vertices, from the faces around them.
+// Local frames by principal components: the eigenvectors of the covariance of a point and its neighbours.
 #ifndef FRAMES_H
 #define FRAMES_H
 
-#include "mesh.h"
+#include "batches.h"
 
 using Matrix3 = std::array<Vec3, 3>; // rows
+using Matrix4 = std::array<Point4, 4>;
 
-/// A matrix for each triangle whose rows are its corners.
-std::vector<Matrix3> triangleCorners(const Mesh& mesh);
+/// Does a plane come out of a point's neighbours? Not where they are as thick as wide, and not on a line. Variances are
+/// relative to their sum, in descending order.
+inline bool hasPlane(const Vec3& variances) {
+  return variances[2] < 0.5 * variances[1] && variances[1] > 1e-9;
+}
 
-/// The edges of triangles, b - a, c - b, a - c, as rows of a matrix: through the library, as products with one matrix.
-void edgesByLibrary(const std::vector<Matrix3>& corners, std::vector<Matrix3>& edges);
-/// The same in a plain loop.
-void edgesByLoop(const std::vector<Matrix3>& corners, std::vector<Matrix3>& edges);
+/// Two tangents, then a normal of length 1, in columns.
+Matrix3 frameOf(const Vec3& normal);
 
-/// A frame for each vertex, with two tangents and the normal as its rows. The normal is the mean of those of the faces
-/// around, each weighted by its angle there. All zero where there is no face with an area.
-std::vector<Matrix3> vertexFrames(const Mesh& mesh, const std::vector<Matrix3>& edges);
+/// The frames of a batch. In single precision: a quadric tells the surface from any frame near its plane, and axes
+/// whose lengths and angles are right to seven digits give curvatures that are.
+class PrincipalFrames {
+public:
+  /// From each point and its neighbours, seen from it, as rows (1, x, y, z).
+  void find(const Batch& batch, const std::vector<Point4>& gathered);
+
+  /// Of point k of the batch: two tangents, then the normal, of either sign, in columns.
+  const Matrix3& axes(std::size_t k) const { return vectors[k]; }
+  /// Along the axes.
+  Vec3 variances(std::size_t k) const { return values[k] - Vec3{1, 1, 1}; }
+  /// Of an even disc with the same mean square distance.
+  double radius(std::size_t k) const { return radii[k]; }
+  /// The sums of the products of any two of 1, x, y and z.
+  const std::vector<Matrix4>& sums() const { return moments; }
+
+private:
+  std::vector<Matrix4> moments = std::vector<Matrix4>(mostInBatch);
+  std::vector<Matrix3> matrices = std::vector<Matrix3>(mostInBatch), vectors = matrices;
+  std::vector<Vec3> values = std::vector<Vec3>(mostInBatch);
+  std::vector<double> radii = std::vector<double>(mostInBatch);
+};
 
 #endif

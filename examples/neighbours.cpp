@@ -3,22 +3,21 @@
 
 namespace {
 
-constexpr std::size_t most = 64;
 // Where thousands of edges meet, the walk ends early: it would take a time that grows with their square.
 constexpr std::size_t mostVisited = 4096;
 
-Neighbours oneRing(const Mesh& mesh) {
-  const std::size_t count = mesh.points.size();
+Neighbours oneRing(const Scan& scan) {
+  const std::size_t count = scan.points.size();
   Neighbours all;
   all.first.assign(count + 1, 0);
-  for (const Triangle& t : mesh.triangles)
+  for (const Triangle& t : scan.triangles)
     for (int32_t corner : t)
       all.first[size_t(corner) + 1] += 2;
   for (std::size_t v = 0; v < count; ++v)
     all.first[v + 1] += all.first[v];
   all.index.resize(all.first[count]);
   std::vector<std::size_t> end(all.first.begin(), all.first.end() - 1);
-  for (const Triangle& t : mesh.triangles)
+  for (const Triangle& t : scan.triangles)
     for (size_t c = 0; c < 3; ++c) {
       all.index[end[size_t(t[c])]++] = t[(c + 1) % 3];
       all.index[end[size_t(t[c])]++] = t[(c + 2) % 3];
@@ -39,9 +38,9 @@ Neighbours oneRing(const Mesh& mesh) {
 
 } // namespace
 
-Neighbours twoRings(const Mesh& mesh) {
-  const std::size_t count = mesh.points.size();
-  const Neighbours ring = oneRing(mesh);
+Neighbours twoRings(const Scan& scan) {
+  const std::size_t count = scan.points.size();
+  const Neighbours ring = oneRing(scan);
   Neighbours result;
   result.first.reserve(count + 1);
   result.first.push_back(0);
@@ -62,7 +61,7 @@ Neighbours twoRings(const Mesh& mesh) {
     visit(v);
     for (std::size_t i = 0, inner = found.size(); i < inner && found.size() < mostVisited; ++i)
       visit(size_t(found[i]));
-    const std::size_t taken = std::min(found.size(), most);
+    const std::size_t taken = std::min(found.size(), mostNeighbours);
     for (std::size_t i = 0; i < taken; ++i)
       result.index.push_back(found[i * found.size() / taken]);
     result.first.push_back(result.index.size());

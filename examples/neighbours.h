@@ -1,17 +1,27 @@
-// Who is near whom on a mesh.
+// Who is near whom in a scan.
 #ifndef NEIGHBOURS_H
 #define NEIGHBOURS_H
 
-#include "mesh.h"
-#include <cstddef>
+#include "progress.h"
+#include "scan.h"
 
-/// A list of vertices for each vertex: that of v is index[first[v]] up to, not including, index[first[v + 1]].
+/// A list of points for each point: that of v is index[first[v]] up to, not including, index[first[v + 1]]. No list has
+/// its own point or more than mostNeighbours.
 struct Neighbours {
   std::vector<std::size_t> first;
   std::vector<int32_t> index;
+  std::size_t count(std::size_t v) const { return first[v + 1] - first[v]; }
 };
 
-/// The vertices within two edges of each vertex, itself left out. Of more than 64 an even choice of 64 is taken.
-Neighbours twoRings(const Mesh& mesh);
+constexpr std::size_t mostNeighbours = 64;
+
+/// The points within two edges of each. Of more than mostNeighbours an even choice is taken.
+Neighbours twoRings(const Scan& scan);
+
+/// The `count` nearest points of each.
+Neighbours nearestPoints(const Scan& scan, std::size_t count, Progress& progress);
+
+/// The points within `radius` of each. Of more than mostNeighbours an even choice is taken, over distances.
+Neighbours pointsWithin(const Scan& scan, double radius, Progress& progress);
 
 #endif

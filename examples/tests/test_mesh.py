@@ -2,6 +2,7 @@
 """Runs the program mesh on files made here: python3 test_mesh.py PROGRAM [test...]"""
 import math
 import os
+import pty
 import re
 import struct
 import subprocess
@@ -25,10 +26,10 @@ class Case(unittest.TestCase):
     def run_mesh(self, *arguments):
         return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, cwd=self.directory.name, timeout=300)
 
-    def run_on(self, text, *arguments):
-        with open(self.path("model.obj"), "wb") as file:
+    def run_on(self, text, *arguments, name="model.obj"):
+        with open(self.path(name), "wb") as file:
             file.write(text if isinstance(text, bytes) else text.encode())
-        return self.run_mesh("-o", "picture.png", *arguments, "model.obj")
+        return self.run_mesh("-o", "picture.png", *arguments, name)
 
 
 class Output:
@@ -42,10 +43,12 @@ class Output:
 
         number = r"(-?[\d.]+(?:e[-+]\d+)?)"
         self.vertices, self.duplicates, self.faces, self.triangles = numbers(
-            r": (\d+) vertices \((\d+) of them duplicates\), (\d+) faces, (\d+) triangles")
+            r": (\d+) points \((\d+) of them duplicates\), (\d+) faces, (\d+) triangles")
+        self.neighbours = numbers(f"neighbours: [a-z ]+, {number} on average")[0]
         self.quadrics, self.cholesky, self.qr, self.without = numbers(
-            r"fits: (\d+) quadrics .* (\d+) by Cholesky, (\d+) by QR; (\d+) vertices without")
-        self.difference, self.thread_difference = numbers(f"relative: {number} .*, {number} ")
+            r"fits: (\d+) quadrics, (\d+) by Cholesky, (\d+) by QR; (\d+) points without")
+        self.difference, self.closed_difference, self.thread_difference, self.alone = numbers(
+            f"radius {number} .*, {number} .*, {number} .*; {number} points have")
         self.curvature = None
         if self.quadrics:
             self.curvature = numbers(f"mean curvature: {number} least, {number} at 5 %, {number} median, "
@@ -56,6 +59,53 @@ class Output:
 def obj(points, faces):
     return "".join("v %.17g %.17g %.17g\n" % tuple(p) for p in points) + "".join(
         "f " + " ".join(str(i + 1) for i in f) + "\n" for f in faces)
+
+
+def xyz(points):
+    return "".join("%.17g %.17g %.17g\n" % tuple(p) for p in points)
+
+
+def ply_header(kind, vertices, faces=None, real="double"):
+    text = f"ply\nformat {kind} 1.0\ncomment of a test\nelement vertex {vertices}\n"
+    text += "".join(f"property {real} {axis}\n" for axis in "xyz")
+    if faces is not None:
+        text += f"element face {faces}\nproperty list uchar int vertex_indices\n"
+    return text + "end_header\n"
+
+
+def ply(points, faces=None, kind="ascii"):
+    """With None for faces the header does not speak of them."""
+    header = ply_header(kind, len(points), None if faces is None else len(faces))
+    faces = faces or []
+    if kind == "ascii":
+        return header + xyz(points) + "".join(" ".join(map(str, [len(f), *f])) + "\n" for f in faces)
+    order = "<" if "little" in kind else ">"
+    return (header.encode() + b"".join(struct.pack(order + "3d", *p) for p in points) +
+            b"".join(struct.pack(f"{order}B{len(f)}i", len(f), *f) for f in faces))
+
+
+def stl(points, faces, text=False):
+    corners = [[points[i] for i in face] for face in faces]
+    if text:
+        return "solid a b\n" + "".join(
+            "facet normal 0 0 1\nouter loop\n" + "".join("vertex %.9g %.9g %.9g\n" % tuple(p) for p in c) +
+            "endloop\nendfacet\n" for c in corners) + "endsolid a b\n"
+    return b"solid".ljust(80) + struct.pack("<I", len(faces)) + b"".join(
+        struct.pack("<12f", 0, 0, 1, *c[0], *c[1], *c[2]) + b"\0\0" for c in corners)
+
+
+def chunk(kind, *parts):
+    body = b"".join(parts)
+    return struct.pack("<HI", kind, len(body) + 6) + body
+
+
+def three_ds(*meshes):
+    """Each mesh an object."""
+    objects = [chunk(0x4000, b"name\0", chunk(
+        0x4100, chunk(0x4110, struct.pack("<H", len(points)), *(struct.pack("<3f", *p) for p in points)),
+        chunk(0x4120, struct.pack("<H", len(faces)), *(struct.pack("<4H", *f, 7) for f in faces),
+              chunk(0x4150, b"\0" * 4 * len(faces))))) for points, faces in meshes]
+    return chunk(0x4d4d, chunk(0x0002, b"\3\0\0\0"), chunk(0x3d3d, *objects), chunk(0xb000, b"12345"))
 
 
 def closed_grid(rows, columns, point, flip=False):
@@ -185,7 +235,7 @@ class Surfaces(Case):
         result = self.run_on(text, *arguments)
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         output = Output(result.stdout)
-        self.assertEqual(output.equal, 2, result.stdout)
+        self.assertEqual(output.equal, 1, result.stdout)
         self.assertLess(output.difference, 1e-6)
         self.assertLess(output.thread_difference, 1e-9)
         return output
@@ -301,6 +351,210 @@ class Surfaces(Case):
             self.assertEqual(self.fit(text[:-1]).curvature, expected)
 
 
+class Formats(Case):
+    def read(self, name, data, *arguments):
+        result = self.run_on(data, *arguments, name=name)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        return Output(result.stdout)
+
+    def test_faces(self):
+        """The same sphere in each format that has faces."""
+        points, faces = sphere(2, 3)
+        points = [tuple(struct.unpack("f", struct.pack("f", x))[0] for x in p) for p in points]
+        expected = self.read("m.obj", obj(points, faces))
+        for name, data in (("m.ply", ply(points, faces)), ("m.PLY", ply(points, faces, "binary_little_endian")),
+                           ("big.ply", ply(points, faces, "binary_big_endian")), ("m.3ds", three_ds((points, faces))),
+                           ("m.stl", stl(points, faces)), ("text.stl", stl(points, faces, True))):
+            with self.subTest(name):
+                output = self.read(name, data)
+                self.assertEqual((output.faces, output.triangles, output.cholesky), (1280, 1280, 642))
+                self.assertEqual(output.vertices - output.duplicates, 642)
+                for value, other in zip(output.curvature, expected.curvature):
+                    self.assertAlmostEqual(value, other, delta=2e-6)
+
+    def test_no_faces(self):
+        """The same points in each format: normals point outward on all of them, and no neighbours depend on faces."""
+        points, _ = sphere(2, 4)
+        expected = self.read("m.obj", obj(points, []))
+        self.assertEqual((expected.faces, expected.neighbours, expected.cholesky), (0, 20, 2562))
+        for value in expected.curvature:
+            self.assertAlmostEqual(value, 0.5, delta=0.01)
+        binary = ply(points, [], "binary_little_endian")
+        for name, data in (("m.xyz", xyz(points)), ("m.ply", ply(points)), ("no.ply", ply(points, [])),
+                           ("b.ply", ply(points, None, "binary_little_endian")), ("e.ply", binary),
+                           ("more.xyz", "# x y z and more\n\n" + "".join("%.17g\t%.17g %.17g 0 1 -2.5e-3 # c\r\n" % p
+                                                                      for p in points))):
+            with self.subTest(name):
+                self.assertEqual(self.read(name, data).curvature, expected.curvature)
+
+    def test_ply_elements(self):
+        """Properties and elements that are not looked at, in any order, of any type."""
+        points, faces = sphere(2, 2)
+        expected = self.read("m.ply", ply(points, faces)).curvature
+        header = ("ply\nformat %s 1.0\nobj_info of a test\nelement extra 2\nproperty list ushort short l\n"
+                  "property float32 f\nelement face {}\nproperty uchar red\nproperty list uint8 uint vertex_index\n"
+                  "element vertex {}\nproperty int8 a\nproperty double z\nproperty list int double w\n"
+                  "property float64 x\nproperty double y\nproperty ushort b\nend_header\n").format(len(faces), len(points))
+        text = "2 -5 6 1.5\n0 nan\n" + "".join("200 3 %d %d %d\n" % f for f in faces) + "".join(
+            "-3 %.17g 1 0.5 %.17g %.17g 9\n" % (z, x, y) for x, y, z in points)
+        self.assertEqual(self.read("t.ply", header % "ascii" + text).curvature, expected)
+        data = struct.pack("<HhhfHf", 2, -5, 6, 1.5, 0, 0) + b"".join(struct.pack("<BB3I", 200, 3, *f) for f in faces) + b"".join(
+            struct.pack("<bdidddH", -3, z, 1, 0.5, x, y, 9) for x, y, z in points)
+        self.assertEqual(self.read("b.ply", (header % "binary_little_endian").encode() + data).curvature, expected)
+
+    def test_3ds_objects(self):
+        one, two = sphere(1, 2, (-2, 0, 0)), sphere(1, 1, (2, 0, 0))
+        output = self.read("m.3ds", three_ds(one, two))
+        self.assertEqual((output.vertices, output.duplicates, output.faces), (162 + 42, 0, 320 + 80))
+
+    def test_polygons(self):
+        points = [(x, y, z) for x in (0, 1) for y in (0, 1) for z in (0, 1)]
+        faces = [(0, 1, 3, 2), (4, 6, 7, 5), (0, 4, 5, 1), (2, 3, 7, 6), (0, 2, 6, 4), (1, 5, 7, 3)]
+        output = self.read("m.ply", ply(points, faces))
+        self.assertEqual((output.faces, output.triangles), (6, 12))
+
+
+class Clouds(Case):
+    def fit(self, points, *arguments):
+        result = self.run_on(xyz(points), *arguments, name="model.xyz")
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        output = Output(result.stdout)
+        self.assertLess(output.difference, 1e-6)
+        self.assertLess(output.thread_difference, 1e-9)
+        return output
+
+    def test_outward(self):
+        """Torus, and apart from it a sphere: the sides of normals are found piece by piece."""
+        torus, _ = closed_grid(240, 80, lambda u, v: ((3 + math.cos(v)) * math.cos(u), math.sin(v), (3 + math.cos(v)) * math.sin(u)))
+        output = self.fit(torus + sphere(4, 4, (9, 0, 0))[0])
+        self.assertEqual(output.cholesky, 19200 + 2562)
+        self.assertAlmostEqual(output.curvature[0], 1 / 4, delta=0.005)
+        self.assertAlmostEqual(output.curvature[4], 5 / 8, delta=0.02)
+
+    def test_neighbours(self):
+        grid = [(i, j, 0.01 * i * j) for i in range(30) for j in range(30)]
+        self.assertEqual(self.fit(grid, "-nearest", "9").neighbours, 9)
+        self.assertEqual(self.fit(grid, "-nearest", "64").neighbours, 64)
+        flat = [(i, j, 0) for i in range(30) for j in range(30)]
+        within = self.fit(flat, "-radius", "1.5").neighbours
+        self.assertAlmostEqual(within, (28 * 28 * 8 + 4 * 28 * 5 + 4 * 3) / 900, delta=0.06)
+        self.assertEqual(self.fit(flat, "-radius", "0.5").neighbours, 0)
+        self.assertLess(max(map(abs, self.fit(flat, "-radius", "3").curvature)), 1e-12)
+        # With faces too.
+        points, faces = sphere(2, 3)
+        result = self.run_on(obj(points, faces), "-nearest", "12")
+        self.assertIn("the nearest points, 12.0 on average", result.stdout)
+
+    def test_odd_clouds(self):
+        line = self.fit([(i, 2 * i, 3 * i) for i in range(50)])
+        self.assertEqual((line.quadrics, line.without), (0, 50))
+        for count in (1, 2, 3, 5):
+            few = self.fit([(i, i * i, i * i * i) for i in range(count)])
+            self.assertEqual((few.vertices, few.quadrics), (count, 0))
+        same = self.fit([(1, 2, 3)] * 30)
+        self.assertEqual((same.duplicates, same.without), (29, 1))
+        clump = self.fit([(x, y, z) for x in range(4) for y in range(4) for z in range(4)], "-nearest", "63")
+        self.assertEqual(clump.vertices, 64)
+        tiny = self.fit([(1e-200 * i, 1e-200 * j, 1) for i in range(6) for j in range(6)] + [(5, 5, 5)])
+        self.assertEqual(tiny.vertices, 37)
+        far = self.fit([(1e300 * x, 1e300 * y, 1e300 * z) for x, y, z in sphere(1, 3)[0]])
+        self.assertEqual(far.cholesky, 642)
+        self.fit([(1e9 + x, 1e9 + y, 1e9 + z) for x, y, z in sphere(1, 3)[0]])
+
+
+class Points(Case):
+    """What -ply writes."""
+
+    def read(self, name):
+        with open(self.path(name), "rb") as file:
+            data = file.read()
+        end = data.index(b"end_header\n") + 11
+        lines = data[:end].decode().splitlines()
+        self.assertEqual(lines[:2], ["ply", "format binary_little_endian 1.0"])
+        count = int(next(line for line in lines if line.startswith("element vertex")).split()[2])
+        names = [line.split()[2] for line in lines if line.startswith("property") and "list" not in line]
+        self.assertEqual(names, ["x", "y", "z", "nx", "ny", "nz", "quality", "gaussian_curvature", "thickness"])
+        size = struct.calcsize("<3d6f")
+        rows = [struct.unpack_from("<3d6f", data, end + size * i) for i in range(count)]
+        rest = data[end + size * count:]
+        faces = [struct.unpack_from("<B3i", rest, at)[1:] for at in range(0, len(rest), 13)]
+        return rows, faces
+
+    def test_sphere(self):
+        """All points of the file in their order, duplicates too, in the file's units."""
+        points, faces = sphere(5, 4, (100, 200, 300))
+        points = points + points[:7]
+        result = self.run_on(obj(points, faces), "-ply", "points.ply")
+        self.assertIn("points: points.ply", result.stdout)
+        rows, triangles = self.read("points.ply")
+        self.assertEqual(triangles, [tuple(f) for f in faces])
+        self.assertEqual([row[:3] for row in rows], points)
+        self.assertEqual(rows[-7:], rows[:7])
+        for (x, y, z, *n, mean, gaussian, thickness) in rows:
+            self.assertAlmostEqual(sum((a - c) * b for a, b, c in zip((x, y, z), n, (100, 200, 300))), 5, delta=1e-3)
+            self.assertAlmostEqual(sum(a * a for a in n), 1, delta=1e-6)
+            self.assertAlmostEqual(mean, 1 / 5, delta=2e-3)
+            self.assertAlmostEqual(gaussian, 1 / 25, delta=1e-3)
+            self.assertTrue(0 < thickness < 0.01, thickness)
+        again = self.run_mesh("-o", "again.png", "points.ply")
+        self.assertEqual(Output(again.stdout).curvature, Output(result.stdout).curvature)
+
+    def test_saddle(self):
+        grid = [(0.02 * i, 0.02 * j, 0.0004 * i * j) for i in range(-20, 21) for j in range(-20, 21)]  # z = x y
+        self.assertEqual(self.run_on(xyz(grid), "-ply", "p.ply", name="m.xyz").returncode, 0)
+        rows, triangles = self.read("p.ply")
+        self.assertEqual(triangles, [])
+        middle = rows[20 * 41 + 20]
+        self.assertAlmostEqual(middle[6], 0, delta=1e-4)
+        self.assertAlmostEqual(middle[7], -1, delta=0.01)
+
+    def test_none(self):
+        self.run_on("0 0 0\n1 0 0\n", "-ply", "p.ply", name="m.xyz")
+        rows, _ = self.read("p.ply")
+        self.assertTrue(all(math.isnan(row[6]) and math.isnan(row[7]) and row[3:6] == (0, 0, 0) for row in rows))
+
+    def test_place(self):
+        result = self.run_on(obj(*sphere(1, 1)), "-ply", "no/such/place.ply")
+        self.assertEqual((result.returncode, result.stderr),
+                         (1, "mesh: no/such/place.ply: cannot write the points: No such file or directory\n"))
+        if os.path.exists("/dev/full"):
+            result = self.run_on(obj(*sphere(1, 4)), "-ply", "/dev/full")
+            self.assertEqual((result.returncode, result.stderr),
+                             (1, "mesh: /dev/full: cannot write the points: No space left on device\n"))
+
+
+class Terminal(Case):
+    def shown(self, *options):
+        """What the program writes to a terminal, as lines written over each other."""
+        with open(self.path("m.xyz"), "w") as file:
+            for i in range(60):
+                for j in range(60):
+                    file.write("%d %d %.3f\n" % (i, j, 2 * math.sin(i / 4) * math.cos(j / 3)))
+        reader, writer = pty.openpty()
+        process = subprocess.Popen([PROGRAM, "m.xyz", *options], stdout=subprocess.DEVNULL, stderr=writer,
+                                   cwd=self.directory.name)
+        os.close(writer)
+        shown = b""
+        try:
+            while data := os.read(reader, 1 << 16):
+                shown += data
+        except OSError:  # the other end is closed
+            pass
+        os.close(reader)
+        self.assertEqual(process.wait(), 0)
+        return shown.decode()
+
+    def test_progress(self):
+        """A line for each kind of work, and nothing is left of it."""
+        text = self.shown("-progress")
+        lines = [line for line in text.split("\r") if line not in ("", "\033[K")]
+        for line in lines:
+            self.assertRegex(line, r"^[a-zA-Z ]+: +\d+ %\033\[K$")
+        self.assertTrue({"reading", "neighbours", "drawing"} <= {line.split(":")[0] for line in lines}, text)
+        self.assertTrue(text.endswith("\r\033[K"))
+        self.assertNotIn("\n", text)
+
+
 class Pictures(Case):
     def test_picture(self):
         points, faces = sphere(2)
@@ -353,10 +607,9 @@ class BadInput(Case):
     GOOD = "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"
 
     CASES = (
-        ("", ": no vertices"),
-        ("# nothing\n", ": no vertices"),
-        ("f 1 2 3\n", ": no vertices"),
-        ("v 0 0 0\nv 1 0 0\nv 0 1 0\n", ": no faces"),
+        ("", ": no points"),
+        ("# nothing\n", ": no points"),
+        ("f 1 2 3\n", ":1: vertex index 3 out of range: there are 0 vertices"),
         (GOOD + "v 1 2\n", ":5: a vertex has 3 coordinates, here are 2 numbers"),
         (GOOD + "v 1 2 3 4 5\n", ":5: a vertex has 3 coordinates, here are 5 numbers"),
         (GOOD + "v\n", ":5: a vertex has 3 coordinates, here are 0 numbers"),
@@ -398,12 +651,114 @@ class BadInput(Case):
                 self.assertFalse(os.path.exists(self.path("picture.png")))
         self.assertEqual(self.run_on(self.GOOD).returncode, 0)
 
+    PLY = ply([(0, 0, 0), (1, 0, 0), (0, 1, 0)], [(0, 1, 2)])
+    HEADER = ply_header("ascii", 3, 1)
+    BINARY = ply([(0, 0, 0), (1, 0, 0), (0, 1, 0)], [(0, 1, 2)], "binary_little_endian")
+    START = BINARY.index(b"end_header") + 11  # of the data
+    STL = stl([(0, 0, 0), (1, 0, 0), (0, 1, 0)], [(0, 1, 2), (2, 1, 0)])
+    STL_TEXT = stl([(0, 0, 0), (1, 0, 0), (0, 1, 0)], [(0, 1, 2)], True)
+    THREE_DS = three_ds(([(0, 0, 0), (1, 0, 0), (0, 1, 0)], [(0, 1, 2)]))
+
+    OTHER_CASES = (
+        ("m.xyz", "", ": no points"),
+        ("m.xyz", "0 0 0\n1 x 0\n", ":2: 'x' is not a number"),
+        ("m.xyz", "0 0 0\n1 0\n", ":2: a point has 3 coordinates, here are 2 numbers"),
+        ("m.xyz", "0 0 0 1\n1 0 0\n", ":2: here are 3 numbers, on the lines before 4"),
+        ("m.xyz", "0 0 0 1\n1 0 0 x\n", ":2: 'x' is not a number"),
+        ("m.xyz", "0 0 inf\n", ":1: 'inf' is not a finite number"),
+        ("m.xyz", "0 0 1e400\n", ":1: '1e400' is not a finite number"),
+        ("m.xyz", b"\x89PNG\0 1 2 3", ":1: '?PNG?' is not a number"),
+        ("m.ply", "", ":1: a PLY file begins with a line ply"),
+        ("m.ply", GOOD, ":1: a PLY file begins with a line ply"),
+        ("m.ply", "ply\nformat ascii 1.0\n", ": the header has no end"),
+        ("m.ply", "ply\nend_header\n", ":2: the header tells no format"),
+        ("m.ply", "ply\nformat xml 1.0\nend_header\n", ":2: unknown format 'xml'"),
+        ("m.ply", "ply\nformat ascii 2.0\nend_header\n", ":2: unknown version '2.0'"),
+        ("m.ply", "ply\nformat ascii 1.0\nhello\nend_header\n", ":3: not a line of a header: 'hello'"),
+        ("m.ply", "ply\nformat ascii 1.0\nelement vertex x\n", ":3: 'x' is not an integer"),
+        ("m.ply", "ply\nformat ascii 1.0\nelement vertex -1\n", ":3: -1 elements"),
+        ("m.ply", "ply\nformat ascii 1.0\nproperty float x\n", ":3: a property without an element"),
+        ("m.ply", "ply\nformat ascii 1.0\nelement vertex 1\nproperty real x\n", ":4: unknown type 'real'"),
+        ("m.ply", "ply\nformat ascii 1.0\nelement face 1\nproperty list float int a\n", ":4: the length of a list is no integer"),
+        ("m.ply", "ply\nformat ascii 1.0\nelement vertex 0\nend_header\n", ":3: the element vertex has not the properties x, y and z"),
+        ("m.ply", "ply\nformat ascii 1.0\nend_header\n", ": no points"),
+        ("m.ply", PLY.replace("vertex_indices", "indices"), ":8: the element face has not a list vertex_indices"),
+        ("m.ply", PLY.replace("3 0 1 2", "3 0 1 3"), ":14: vertex index 3 out of range: there are 3 vertices"),
+        ("m.ply", PLY.replace("3 0 1 2", "3 0 1 -1"), ":14: vertex index -1 out of range: there are 3 vertices"),
+        ("m.ply", PLY.replace("3 0 1 2", "3 0 1 x"), ":14: 'x' is not an integer"),
+        ("m.ply", PLY.replace("3 0 1 2", "3 0 1"), ":14: here are 3 numbers, there should be more"),
+        ("m.ply", PLY.replace("3 0 1 2", "3 0 1 2 2"), ":14: here are 5 numbers, there should be 4"),
+        ("m.ply", PLY.replace("3 0 1 2", "2 0 1"), ":14: a face has at least 3 corners, here are 2"),
+        ("m.ply", PLY.replace("3 0 1 2", "-3 0 1"), ":14: a list of -3 numbers"),
+        ("m.ply", PLY.replace("1 0 0", "1 x 0"), ":12: 'x' is not a number"),
+        ("m.ply", PLY.replace("1 0 0", "1 nan 0"), ":12: 'nan' is not a finite number"),
+        ("m.ply", PLY + "1 2 3\n", ":15: behind the last element"),
+        ("m.ply", HEADER + "0 0 0\n1 0 0\n", ": the file ends after 2 of 3 elements 'vertex'"),
+        ("m.ply", HEADER + "0 0 0\n1 0 0\n0 1 0\n", ": the file ends after 0 of 1 elements 'face'"),
+        ("m.ply", ply_header("ascii", 4000000000) + "0 0 0\n", ":4: too many points"),
+        ("m.ply", ply_header("binary_little_endian", 200000000) + "0", f": byte {len(ply_header('binary_little_endian', 200000000)) + 1}: the file ends here, in the middle of its data"),
+        ("m.ply", BINARY[:-1], f": byte {len(BINARY) - 1}: the file ends here, in the middle of its data"),
+        ("m.ply", BINARY[:START + 30], f": byte {START + 30}: the file ends here, in the middle of its data"),
+        ("m.ply", BINARY + b"12", f": byte {len(BINARY)}: 2 bytes behind the last element"),
+        ("m.ply", BINARY[:-4] + b"\3\0\0\0", f": byte {len(BINARY) - 4}: vertex index 3 out of range: there are 3 vertices"),
+        ("m.ply", BINARY[:START + 8] + struct.pack("<d", math.nan) + BINARY[START + 16:], f": byte {START + 8}: a coordinate that is not a finite number"),
+        ("m.stl", "", ": byte 0: the file ends here, in the middle of its data"),
+        ("m.stl", "hello\n", ": byte 6: the file ends here, in the middle of its data"),
+        ("m.stl", STL[:-1], ": byte 80: 2 facets take 100 bytes, here are 99"),
+        ("m.stl", STL + b"1", ": byte 80: 2 facets take 100 bytes, here are 101"),
+        ("m.stl", STL[:80] + b"\xff\xff\xff\xff" + STL[84:], ": byte 80: 4294967295 facets take 214748364750 bytes, here are 100"),
+        ("m.stl", STL[:96] + struct.pack("<f", math.inf) + STL[100:], ": byte 96: a coordinate that is not a finite number"),
+        ("m.stl", STL[:80] + b"\0\0\0\0", ": no points"),
+        ("m.stl", STL_TEXT.replace("vertex 1 0 0", "vertex 1 x 0"), ":5: 'x' is not a number"),
+        ("m.stl", STL_TEXT.replace("vertex 1 0 0", "vertex 1 0"), ":5: here are 2 numbers, there should be 3"),
+        ("m.stl", STL_TEXT.replace("outer loop", "loop"), ":3: 'outer' should stand here, not 'loop'"),
+        ("m.stl", STL_TEXT.replace("endloop\n", ""), ":7: 'endloop' should stand here, not 'endfacet'"),
+        ("m.stl", STL_TEXT[:STL_TEXT.index("endsolid")], ": the file ends before endsolid"),
+        ("m.stl", STL_TEXT[:STL_TEXT.index("endloop")], ": the file ends in the middle of a facet"),
+        ("m.3ds", "", ": byte 0: a chunk that has no room for its length"),
+        ("m.3ds", "hello, world", ": byte 0: a chunk of "),
+        ("m.3ds", chunk(0x3d3d), ": byte 0: not a 3DS file"),
+        ("m.3ds", chunk(0x4d4d), ": no points"),
+        ("m.3ds", THREE_DS[:-1], f": byte 0: a chunk of {len(THREE_DS)} bytes where there are {len(THREE_DS) - 1}"),
+        ("m.3ds", three_ds(([(0, 0, 0), (1, 0, 0), (0, 1, 0)], [(0, 1, 3)])), ": byte 95: vertex index 3 out of range: there are 3 vertices"),
+        ("m.3ds", three_ds(([(0, 0, 0), (1, math.nan, 0), (0, 1, 0)], [])), ": byte 63: a coordinate that is not a finite number"),
+        ("m.3ds", chunk(0x4d4d, chunk(0x3d3d, chunk(0x4000, b"n\0", chunk(0x4100, chunk(0x4110, b"\5\0", b"1234"))))), ": byte 34: 60 bytes of data in a chunk with 4"),
+        ("m.3ds", chunk(0x4d4d, chunk(0x3d3d, chunk(0x4000, b"name"))), ": byte 22: 1 bytes of data in a chunk with 0"),
+        ("m.png", GOOD, ": the name does not tell what it is: .obj, .ply, .xyz, .stl and .3ds are read"),
+        ("obj", GOOD, ": the name does not tell"),
+        ("m.obj.gz", GOOD, ": the name does not tell"),
+    )
+
+    def test_other_formats(self):
+        for name, data, message in self.OTHER_CASES:
+            with self.subTest(name=name, data=data):
+                result = self.run_on(data, name=name)
+                self.assertEqual(result.returncode, 1)
+                self.assertEqual(result.stderr.count("\n"), 1)
+                self.assertTrue(result.stderr.startswith(f"mesh: {name}" + message), result.stderr)
+                self.assertFalse(os.path.exists(self.path("picture.png")))
+        for name, data in (("m.ply", self.PLY), ("m.ply", self.BINARY), ("m.stl", self.STL), ("m.stl", self.STL_TEXT),
+                           ("m.3ds", self.THREE_DS)):
+            self.assertEqual(self.run_on(data, name=name).returncode, 0)
+
+    def test_truncated(self):
+        """Files that end at any byte: refused, or used as far as a text tells that it is whole; never a crash."""
+        text_end = self.PLY.rindex("2")  # without the last line end nothing is missing
+        for name, data, whole in (("m.ply", self.BINARY, len(self.BINARY)), ("m.ply", self.PLY.encode(), text_end + 1),
+                                  ("m.stl", self.STL, len(self.STL)), ("m.3ds", self.THREE_DS, len(self.THREE_DS)),
+                                  ("m.stl", self.STL_TEXT.encode(), self.STL_TEXT.rindex("endsolid") + 8)):
+            for size in range(0, whole, 5):
+                with self.subTest(name=name, size=size):
+                    result = self.run_on(data[:size], name=name)
+                    self.assertEqual(result.returncode, 1)
+                    self.assertRegex(result.stderr, rf"^mesh: {name}:.*\n$")
+
     def test_missing(self):
         result = self.run_mesh("nowhere.obj")
         self.assertEqual((result.returncode, result.stderr),
                          (1, "mesh: nowhere.obj: cannot open: No such file or directory\n"))
         result = self.run_mesh(self.directory.name)
-        self.assertEqual((result.returncode, result.stderr), (1, f"mesh: {self.directory.name}: cannot read\n"))
+        self.assertEqual((result.returncode, result.stderr), (1, f"mesh: {self.directory.name}: cannot read: Is a directory\n"))
 
     def test_picture_place(self):
         result = self.run_on(self.GOOD, "-o", "no/such/place.png")
@@ -411,7 +766,9 @@ class BadInput(Case):
         self.assertIn("mesh: no/such/place.png: cannot write the picture", result.stderr)
 
     def test_usage(self):
-        for arguments in (["-o"], ["-x"], ["a.obj", "b.obj"], ["-turn", "x", "a.obj"], ["-tilt", "nan", "a.obj"]):
+        for arguments in (["-o"], ["-x"], ["a.obj", "b.obj"], ["-turn", "x", "a.obj"], ["-tilt", "nan", "a.obj"],
+                          ["-ply"], ["-nearest", "0", "a.obj"], ["-nearest", "65", "a.obj"], ["-nearest", "2.5", "a.obj"],
+                          ["-radius", "0", "a.obj"], ["-radius", "-1", "a.obj"], ["-radius", "1", "-nearest", "5", "a.obj"]):
             result = self.run_mesh(*arguments)
             self.assertEqual((result.returncode, result.stdout), (2, ""), arguments)
             self.assertIn("usage: mesh", result.stderr)

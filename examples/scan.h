@@ -1,18 +1,19 @@
-// A triangle mesh, and the little vector algebra that single points need.
-#ifndef MESH_H
-#define MESH_H
+// A scan: points, perhaps with triangles between them; and the little vector algebra that single points need.
+#ifndef SCAN_H
+#define SCAN_H
 
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
 using Vec3 = std::array<double, 3>;
 using Triangle = std::array<int32_t, 3>;
 
-struct Mesh {
+struct Scan {
   std::vector<Vec3> points;
-  std::vector<Triangle> triangles;
+  std::vector<Triangle> triangles; // polygons are cut into triangles around their first corner
 };
 
 inline Vec3 operator+(const Vec3& a, const Vec3& b) {
