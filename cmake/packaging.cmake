@@ -18,8 +18,10 @@ set_target_properties(zelm_static PROPERTIES INTERFACE_LINK_LIBRARIES
 install(TARGETS zelm EXPORT zelm-targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
 # The same file name and SONAME in the directory that the dynamic loader searches first on processors that have it.
-install(TARGETS zelm_v3
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/x86-64-v3 COMPONENT runtime NAMELINK_SKIP)
+foreach(width ${ZELM_WIDTHS})
+  install(TARGETS zelm_${width}
+          LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/x86-64-${width} COMPONENT runtime NAMELINK_SKIP)
+endforeach()
 install(TARGETS zelm_static EXPORT zelm-targets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/zelm/include/zelm.h
@@ -86,7 +88,7 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(ZELM_DEB_VERSION ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${PROJECT_DESCRIPTION}\n Shared library, for x86-64 and for x86-64-v3 processors.")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${PROJECT_DESCRIPTION}\n Shared library, for x86-64 processors and, wider, for x86-64-v3 and v4.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libzelmn8)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 # The symbols that are used give the least versions, where the tool that knows them is installed.

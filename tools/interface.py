@@ -6,6 +6,7 @@ those four. The tables below hold the families; the rest of this file derives na
 
   zelm/include/zelm.h       the public header          (committed)
   zelm/src/zelm.exports     the list of exported names (committed)
+  README.md                 its table of families      (committed)
   man pages                 one for each family and form, built and installed
 
   interface.py              emit the header and the export list
@@ -25,12 +26,6 @@ import textwrap
 from collections import namedtuple
 
 import interface_text as text
-
-# The groups that this version contains. A name out of GROUPS added here adds its functions.
-THIS_VERSION = [
-    "AddMatrices", "MulConstants", "MulMatrices", "MulVectors", "Gaxpy", "AffineTransform3DH",
-    "LUDecomp", "LUBackSubst", "CholeskyDecomp", "CholeskyBackSubst", "QRDecomp", "QRBackSubst",
-]
 
 # One row for each family, or for each part of a family with an argument list of its own.
 #   single, array   the forms without and with an array operand
@@ -105,6 +100,9 @@ DESCRIPTOR["ta"], DESCRIPTOR["t"] = DESCRIPTOR["ma"], DESCRIPTOR["m"]
 
 # Gaxpy's third operand has no letter in the form.
 THIRD_OPERAND = {"mv": "v", "mva": "va", "mvav": "v"}
+
+# The groups that this version contains: those that have a text.
+THIS_VERSION = [group.key for group in GROUPS if group.key in text.GROUPS]
 
 Function = namedtuple("Function", "name group form type layout returns parameters")  # parameters: (C type, name)
 
@@ -215,9 +213,8 @@ def check_grammar():
     names = [f.name for f in functions(everything=True)]
     if len(names) != 788 or len(set(names)) != 788:
         wrong.append("%d names, %d different ones, expected 788" % (len(names), len(set(names))))
-    unknown = set(THIS_VERSION) - {g.key for g in GROUPS}
+    unknown = set(text.GROUPS) - {g.key for g in GROUPS}
     wrong += ["no such group: " + key for key in sorted(unknown)]
-    wrong += ["no text for group " + key for key in THIS_VERSION if key not in text.GROUPS]
     for group in GROUPS:
         told = set(text.GROUPS[group.key]["forms"]) if group.key in text.GROUPS else None
         if told is not None and told != set((group.single + " " + group.array).split()):
@@ -315,6 +312,44 @@ def exports():
            "{\n  global:\n%s  local:\n    *;\n};\n" % names
 
 
+# ---------------------------------------------------------------------------------------------------- the README's table
+
+README_BEGIN = "<!-- families: emitted by tools/interface.py -->\n"
+README_END = "<!-- end of families -->\n"
+
+
+def families():
+    """The families of this version with their groups, in the order of the table."""
+    out = {}
+    for group in GROUPS:
+        if group.key in THIS_VERSION:
+            out.setdefault(group.family, []).append(group)
+    return out
+
+
+def family_table():
+    rows = ["| Family | What it computes | Forms | Types | Layouts | Functions |", "|---|---|---|---|---|---|"]
+    for family, groups in families().items():
+        members = [f for group in groups for f in functions_of(group)]
+        forms = " ".join("`%s`" % form for group in groups for form in (group.single + " " + group.array).split()
+                         if form != "-")
+        types = " ".join("`%s`" % t for t in ("32f", "64f") if any("_" + t in f.name for f in members))
+        # A single form has no list layout; Copy has a layout for the source and one for the result.
+        layouts = "pairs" if family == "Copy" else " ".join(
+            name for letter, name in (("S", "standard"), ("L", "list"), ("P", "pointer"))
+            if any(f.layout == letter for f in members)) or "-"
+        rows.append("| `%s` | %s | %s | %s | %s | %d |" % (family, text.FAMILIES[family], forms or "-", types, layouts,
+                                                         len(members)))
+    return "\n".join(rows) + "\n"
+
+
+def readme(root):
+    with open(os.path.join(root, "README.md"), encoding="utf-8") as file:
+        whole = file.read()
+    before, rest = whole.split(README_BEGIN)
+    return before + README_BEGIN + family_table() + README_END + rest.split(README_END)[1]
+
+
 # ---------------------------------------------------------------------------------------------------- man pages
 
 def man_text(line):
@@ -350,9 +385,21 @@ def man_page(title, names, brief, synopsis, sections):
 def man_pages():
     """File name and text of each page; further names of a page's functions lead to it."""
     pages = {"zelm.3": man_page("zelm", ["zelm"], "operations on very many tiny matrices and vectors", [],
-                                [("Description", text.OVERVIEW)])}
+                                [("Description", text.OVERVIEW),
+                                 ("Families", ["- zelm%s(3): %s" % (family, text.FAMILIES[family])
+                                               for family in families()])])}
     pages["zelmGetLibVersion.3"] = man_page("zelmGetLibVersion", ["zelmGetLibVersion"], "the library's version",
                                             [one_line(VERSION_FUNCTION) + ";"], [("Description", text.VERSION)])
+    for family, groups in families().items():
+        if groups[0].single == "-":
+            continue  # the query's own page has the name of the family
+        forms = [(group, form) for group in groups for form in (group.single + " " + group.array).split()]
+        description = [line for group in groups for line in text.GROUPS[group.key]["what"]]
+        pages["zelm%s.3" % family] = man_page(
+            "zelm" + family, ["zelm" + family], text.FAMILIES[family], [],
+            [("Forms", ["- zelm%s_%s(3): %s" % (family, form, " ".join(text.GROUPS[group.key]["forms"][form].split()))
+                        for group, form in forms]),
+             ("Description", description), ("See also", ["zelm(3) for layouts, units and statuses."])])
     for group in GROUPS:
         if group.key not in THIS_VERSION:
             continue
@@ -381,7 +428,7 @@ def example_programs():
 
 def write(path, content):
     os.makedirs(os.path.dirname(path) or ".", exist_ok=True)
-    with open(path, "w", encoding="ascii") as file:
+    with open(path, "w", encoding="utf-8") as file:
         file.write(content)
 
 
@@ -396,7 +443,8 @@ def main():
     parser.add_argument("--root", default=root, help="the source tree")
     arguments = parser.parse_args()
     check_grammar()
-    emitted = {"zelm/include/zelm.h": header, "zelm/src/zelm.exports": exports}
+    emitted = {"zelm/include/zelm.h": header, "zelm/src/zelm.exports": exports,
+               "README.md": lambda: readme(arguments.root)}
     if arguments.list:
         print("\n".join(map(one_line, functions(arguments.all))))
     elif arguments.man:
@@ -408,7 +456,7 @@ def main():
     elif arguments.check:
         different = False
         for name, emit in emitted.items():
-            with open(os.path.join(arguments.root, name), encoding="ascii") as file:
+            with open(os.path.join(arguments.root, name), encoding="utf-8") as file:
                 committed = file.read()
             diff = difflib.unified_diff(committed.splitlines(True), emit().splitlines(True), name, "as emitted")
             lines = list(diff)

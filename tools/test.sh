@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds library, tests and examples with warnings as errors and runs all tests: tools/test.sh [--sanitize]
-# CXX=clang++ takes clang and its OpenMP runtime; --sanitize builds with the address and undefined sanitizers.
+# ZELM_WIDTHS="v3;v4" builds all widths. CXX=clang++ takes clang and its OpenMP runtime; --sanitize builds with the address and undefined sanitizers.
 # Works on a fresh Debian 12.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -21,7 +21,7 @@ for argument in "$@"; do
   esac
 done
 
-need g++ cmake ninja-build libgtest-dev python3 pkg-config doxygen libpng-dev libeigen3-dev glmark2-data
+need g++ cmake ninja-build libgtest-dev python3 pkg-config doxygen libpng-dev libeigen3-dev libnanoflann-dev glmark2-data
 case $CXX in
 *clang++*)
   CC=$(echo "$CXX" | sed 's/clang++/clang/')
@@ -34,8 +34,13 @@ case $CXX in
 esac
 export CC CXX
 
+# Beside the build for all processors the widest that this machine runs; ZELM_WIDTHS="v3;v4" for all.
+if [ -z "${ZELM_WIDTHS:-}" ]; then
+  ZELM_WIDTHS=v3
+  /lib64/ld-linux-x86-64.so.2 --help | grep -q 'x86-64-v4 (supported' && ZELM_WIDTHS=v4
+fi
 build=$root/build-test-$name
-set -- -DCMAKE_BUILD_TYPE=Release -DZELM_TESTS=ON -DZELM_BENCH=OFF -DZELM_EXAMPLES=ON -DZELM_WERROR=ON
+set -- "-DZELM_WIDTHS=$ZELM_WIDTHS" -DCMAKE_BUILD_TYPE=Release -DZELM_TESTS=ON -DZELM_BENCH=OFF -DZELM_EXAMPLES=ON -DZELM_WERROR=ON
 if [ -n "$sanitize" ]; then
   # Optimising the checks takes minutes a file, and finds no more.
   set -- "$@" -DZELM_EXAMPLES=OFF -DZELM_SANITIZE="$sanitize" "-DCMAKE_CXX_FLAGS_RELEASE=-O0 -DNDEBUG"
