@@ -15,10 +15,10 @@ def run(*command, **options):
 
 def main():
     parser = argparse.ArgumentParser()
-    for option in ("cpack", "build", "work", "libdir", "header", "widths"):
+    for option in ("cpack", "build", "work", "header", "widths"):
         parser.add_argument("--" + option, required=True)
     arguments = parser.parse_args()
-    lib = "usr/" + arguments.libdir + "/"
+    lib = "usr/lib/x86_64-linux-gnu/"  # wherever the build itself installs to
     with open(arguments.header, encoding="ascii") as file:
         functions = set(re.findall(r"\b(zelm\w+)\(", re.sub(r"/\*.*?\*/", "", file.read(), flags=re.S)))
     forms = {re.sub(r"_(32f|64f)(_\w+)?$", "", name) for name in functions}
@@ -26,12 +26,14 @@ def main():
     pages = {"usr/share/man/man3/%s.3" % name for name in functions | forms | families | {"zelm"}}
     expected = {
         "libzelmn8": {lib + "libzelmn8.so.6.1"} | {lib + "glibc-hwcaps/x86-64-%s/libzelmn8.so.6.1" % width
-                                                   for width in arguments.widths.split(";")},
+                                                   for width in arguments.widths.split(";") if width},
         "libzelmn8-dev": pages | {"usr/include/zelm.h"} | {lib + name for name in (
             "libzelmn8.so", "libzelmn8.a", "pkgconfig/zelm.pc", "cmake/zelm/zelm-config.cmake",
             "cmake/zelm/zelm-config-version.cmake", "cmake/zelm/zelm-targets.cmake",
             "cmake/zelm/zelm-targets-release.cmake")},
     }
+    for name, files in expected.items():
+        files |= {"usr/share/doc/%s/changelog%s.gz" % (name, kind) for kind in ("", ".Debian")}
     faults = []
     shutil.rmtree(arguments.work, ignore_errors=True)
     try:
@@ -44,7 +46,7 @@ def main():
     packages = glob.glob(os.path.join(arguments.work, "*.deb"))
     for package in packages:
         name = run("dpkg-deb", "-f", package, "Package").strip()
-        fields[name] = {f: run("dpkg-deb", "-f", package, f).strip() for f in ("Version", "Depends", "Architecture")}
+        fields[name] = {f: run("dpkg-deb", "-f", package, f).strip() for f in ("Version", "Depends", "Description")}
         listing = [line.split(None, 5)[5] for line in run("dpkg-deb", "-c", package).splitlines()]
         files = {re.sub(r" -> .*", "", entry)[2:] for entry in listing if not entry.endswith("/")}
         wanted = {re.sub("-release", "-" + f.group(1), w) if (f := re.search("targets-(\\w+)", " ".join(files))) else w
@@ -53,6 +55,15 @@ def main():
         faults += ["%s has %s" % (name, file) for file in sorted(files - wanted)]
         if name == "libzelmn8-dev" and not any(e.endswith("libzelmn8.so -> libzelmn8.so.6.1") for e in listing):
             faults.append("the development link does not lead to libzelmn8.so.6.1")
+        synopsis, *description = fields[name]["Description"].split("\n")
+        if not description or any(synopsis.split(" (")[0].lower() in line.lower() for line in description):
+            faults.append("the description of %s says nothing, or its synopsis again" % name)
+        changes = run("sh", "-c", "dpkg-deb --fsys-tarfile '%s' | tar -xO ./usr/share/doc/%s/changelog.Debian.gz | gzip -d"
+                      % (package, name))
+        if not changes.startswith("zelm (%s) " % fields[name]["Version"]):
+            faults.append("the changelog of %s begins: %s" % (name, changes.split("\n", maxsplit=1)[0]))
+    if len({package["Description"].split("\n")[0] for package in fields.values()}) != len(fields):
+        faults.append("the packages have one synopsis")
     if sorted(fields) != sorted(expected) or len(packages) != 2:
         faults.append("packages: " + " ".join(sorted(fields)))
     else:
