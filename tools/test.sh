@@ -21,7 +21,7 @@ for argument in "$@"; do
   esac
 done
 
-need g++ cmake ninja-build libgtest-dev python3 pkg-config doxygen libpng-dev libeigen3-dev libnanoflann-dev glmark2-data
+need g++ cmake ninja-build libgtest-dev python3 pkg-config doxygen libpng-dev libeigen3-dev libglm-dev libnanoflann-dev glmark2-data
 case $CXX in
 *clang++*)
   CC=$(echo "$CXX" | sed 's/clang++/clang/')
