@@ -382,10 +382,16 @@ def man_page(title, names, brief, synopsis, sections):
     return "\n".join(out) + "\n"
 
 
+def statuses():
+    """The values of ZelStatus and what they say, as the header has them."""
+    rows = re.findall(r"(zelStatus\w+) = (-?\d+),? +/\*\*< (.*) \*/", text.HEADER_TYPES)
+    return "\n".join("  %-28s %4s  %s" % row for row in rows)
+
+
 def man_pages():
     """File name and text of each page; further names of a page's functions lead to it."""
     pages = {"zelm.3": man_page("zelm", ["zelm"], "operations on very many tiny matrices and vectors", [],
-                                [("Description", text.OVERVIEW),
+                                [("Description", text.OVERVIEW), ("Statuses", [statuses()]),
                                  ("Families", ["- zelm%s(3): %s" % (family, text.FAMILIES[family])
                                                for family in families()])])}
     pages["zelmGetLibVersion.3"] = man_page("zelmGetLibVersion", ["zelmGetLibVersion"], "the library's version",

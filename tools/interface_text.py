@@ -182,8 +182,9 @@ OVERVIEW = [
     "family says otherwise.",
 
     "Numbers. Every operation is rounded once in the element type but where a family says otherwise, products and sums are\n"
-    "not fused. The library leaves the rounding and denormal modes alone and is meant for those of a fresh thread. The same call gives the same bits on every\n"
-    "processor. NaN results are NaN; their sign and payload are not defined.",
+    "not fused. The library leaves the rounding and denormal modes alone and is meant for those of a fresh thread. The same\n"
+    "call gives the same bits on every processor but where a family says otherwise. NaN results are NaN; their sign and\n"
+    "payload are not defined.",
 ]
 
 SECTIONS = [

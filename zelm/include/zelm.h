@@ -89,7 +89,8 @@ extern "C" {
  *
  * Numbers. Every operation is rounded once in the element type but where a family says otherwise, products and sums are
  * not fused. The library leaves the rounding and denormal modes alone and is meant for those of a fresh thread. The
- * same call gives the same bits on every processor. NaN results are NaN; their sign and payload are not defined.
+ * same call gives the same bits on every processor but where a family says otherwise. NaN results are NaN; their sign
+ * and payload are not defined.
  */
 
 /** A single precision number (IEEE 754 binary32). */
