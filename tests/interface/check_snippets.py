@@ -46,14 +46,14 @@ def main():
     flags += ["-idirafter" + directory for directory in headers.values()]
     link = [arguments.library, "-lm", "-Wl,-rpath," + os.path.dirname(arguments.library)]
 
-    def attempt(where, compiler, standard, source, runs):
+    def attempt(where, compiler, options, source, runs):
         """Compiles and, with the library's own compiler, runs a program; returns whether that is well."""
         if runs:
-            good = subprocess.run([compiler, standard, *flags, source, "-o", source + ".run", *link], check=False).returncode == 0
+            good = subprocess.run([compiler, *options, *flags, source, "-o", source + ".run", *link], check=False).returncode == 0
             good = good and subprocess.run([source + ".run"], check=False).returncode == 0
         else:
-            good = subprocess.run([compiler, standard, *flags, "-fsyntax-only", source], check=False).returncode == 0
-        print("%s, %s %s: %s" % (where, os.path.basename(compiler), standard, "good" if good else "failed"))
+            good = subprocess.run([compiler, *options, *flags, "-fsyntax-only", source], check=False).returncode == 0
+        print("%s, %s %s: %s" % (where, os.path.basename(compiler), " ".join(options), "good" if good else "failed"))
         return good
 
     jobs = []
@@ -71,9 +71,10 @@ def main():
                 source = os.path.join(arguments.work, "%s%d.%s" % (os.path.basename(path), line, ending))
                 with open(source, "w", encoding="utf-8") as file:
                     file.write(program(code))
-                jobs.append((where, arguments.c if ending == "c" else arguments.cxx, standard, source, True))
+                options = [standard] + ["-fopenmp"] * ("#pragma omp" in code)
+                jobs.append((where, arguments.c if ending == "c" else arguments.cxx, options, source, True))
                 for compiler in arguments.others[ending == "cpp"::2]:
-                    jobs.append((where, compiler, standard, source, False))
+                    jobs.append((where, compiler, options, source, False))
     if not arguments.others:
         print("left out: no second compiler here")
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
