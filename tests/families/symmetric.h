@@ -321,16 +321,13 @@ template <class T, class RulesOf> void symmetricReference(Typed<T>& job, bool ve
     if (n == 2 && status == zelStatusSingular)
       continue; // nothing is written
     for (int i = 0; i < n; ++i) {
-      // Without convergence what is left has no meaning.
+      // Without convergence they have no meaning; vectors are as far as they got.
       if (status == zelStatusNoConvergence)
         values.free(k, 0, i);
       else
         values.set(k, i, one.w(i));
       for (int j = 0; j < n && vectors; ++j)
-        if (status == zelStatusNoConvergence)
-          v.free(k, i, j);
-        else
-          v.set(k, i, j, one.v(i, j));
+        v.set(k, i, j, one.v(i, j));
     }
   }
 }

@@ -50,14 +50,18 @@ template <class T> bool symmetricPair(T a, T b, T d, double limit, SymmetricPair
 template bool symmetricPair(float, float, float, double, SymmetricPair<float>&);
 template bool symmetricPair(double, double, double, double, SymmetricPair<double>&);
 
-template <class L> ZelStatus symmetricValuesOf(L* b, L* values, int n) {
+template <class L> ZelStatus symmetricValuesOf(const Column<L>& b, const Column<L>& values, int n) {
   constexpr double limit{symmetricEpsilon<ElementOf<L>>};
   return symmetricSolve<L>(b, values, NoVectors{}, n, {limit, limit, true});
 }
 
-template ZelStatus symmetricValuesOf(float*, float*, int);
-template ZelStatus symmetricValuesOf(double*, double*, int);
-template ZelStatus symmetricValuesOf(Lanes<float>*, Lanes<float>*, int);
-template ZelStatus symmetricValuesOf(Lanes<double>*, Lanes<double>*, int);
+// clang-format off
+template ZelStatus symmetricValuesOf(const Column<float>&, const Column<float>&, int);
+template ZelStatus symmetricValuesOf(const Column<double>&, const Column<double>&, int);
+template ZelStatus symmetricValuesOf(const Column<Lanes<float>>&, const Column<Lanes<float>>&, int);
+template ZelStatus symmetricValuesOf(const Column<Lanes<double>>&, const Column<Lanes<double>>&, int);
+template ZelStatus symmetricValuesOf(const Column<SymmetricLane<float>>&, const Column<SymmetricLane<float>>&, int);
+template ZelStatus symmetricValuesOf(const Column<SymmetricLane<double>>&, const Column<SymmetricLane<double>>&, int);
+// clang-format on
 
 } // namespace zelm

@@ -45,23 +45,30 @@ extern template bool symmetricPair(double, double, double, double, SymmetricPair
 // into the columns of v. Of a vector of objects, any other status than zelStatusOk says only that one of them fails.
 
 template <class L> using Square = Rectangle<L, int64_t>;
+// Two vectors side by side: each chain of divisions and roots waits for the other.
+template <class T> using SymmetricLane = Pair<Lanes<T>>;
 template <class T> using AnyMatrixView = StridedMatrixView<T, AnyStep, AnyStep>;
 
-template <class L> ZelStatus symmetricValuesOf(L* b, L* values, int n);
+template <class L> ZelStatus symmetricValuesOf(const Column<L>& b, const Column<L>& values, int n);
 template <class L, class Vectors>
-ZelStatus symmetricVectorsOf(L* b, L* values, const Vectors& v, int n, const SymmetricLimits& limits);
+ZelStatus symmetricVectorsOf(const Column<L>& b, const Column<L>& values, const Vectors& v, int n,
+                             const SymmetricLimits& limits);
 
 // clang-format off
-extern template ZelStatus symmetricValuesOf(float*, float*, int);
-extern template ZelStatus symmetricValuesOf(double*, double*, int);
-extern template ZelStatus symmetricValuesOf(Lanes<float>*, Lanes<float>*, int);
-extern template ZelStatus symmetricValuesOf(Lanes<double>*, Lanes<double>*, int);
-extern template ZelStatus symmetricVectorsOf(float*, float*, const AnyMatrixView<float>&, int, const SymmetricLimits&);
-extern template ZelStatus symmetricVectorsOf(double*, double*, const AnyMatrixView<double>&, int, const SymmetricLimits&);
-extern template ZelStatus symmetricVectorsOf(float*, float*, const PointerMatrixView<float>&, int, const SymmetricLimits&);
-extern template ZelStatus symmetricVectorsOf(double*, double*, const PointerMatrixView<double>&, int, const SymmetricLimits&);
-extern template ZelStatus symmetricVectorsOf(Lanes<float>*, Lanes<float>*, const Square<Lanes<float>>&, int, const SymmetricLimits&);
-extern template ZelStatus symmetricVectorsOf(Lanes<double>*, Lanes<double>*, const Square<Lanes<double>>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricValuesOf(const Column<float>&, const Column<float>&, int);
+extern template ZelStatus symmetricValuesOf(const Column<double>&, const Column<double>&, int);
+extern template ZelStatus symmetricValuesOf(const Column<Lanes<float>>&, const Column<Lanes<float>>&, int);
+extern template ZelStatus symmetricValuesOf(const Column<Lanes<double>>&, const Column<Lanes<double>>&, int);
+extern template ZelStatus symmetricValuesOf(const Column<SymmetricLane<float>>&, const Column<SymmetricLane<float>>&, int);
+extern template ZelStatus symmetricValuesOf(const Column<SymmetricLane<double>>&, const Column<SymmetricLane<double>>&, int);
+extern template ZelStatus symmetricVectorsOf(const Column<float>&, const Column<float>&, const AnyMatrixView<float>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricVectorsOf(const Column<double>&, const Column<double>&, const AnyMatrixView<double>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricVectorsOf(const Column<float>&, const Column<float>&, const PointerMatrixView<float>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricVectorsOf(const Column<double>&, const Column<double>&, const PointerMatrixView<double>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricVectorsOf(const Column<Lanes<float>>&, const Column<Lanes<float>>&, const Square<Lanes<float>>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricVectorsOf(const Column<Lanes<double>>&, const Column<Lanes<double>>&, const Square<Lanes<double>>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricVectorsOf(const Column<SymmetricLane<float>>&, const Column<SymmetricLane<float>>&, const Square<SymmetricLane<float>>&, int, const SymmetricLimits&);
+extern template ZelStatus symmetricVectorsOf(const Column<SymmetricLane<double>>&, const Column<SymmetricLane<double>>&, const Square<SymmetricLane<double>>&, int, const SymmetricLimits&);
 // clang-format on
 
 // A view whose type does not tell the strides.
@@ -103,7 +110,7 @@ ZELM_INLINE ZelStatus symmetricValuesObject(const View& src, T* b, T* values, in
     return zelStatusOk;
   }
   symmetricCopy(src, b, n);
-  return symmetricValuesOf(b, values, n);
+  return symmetricValuesOf(Column<T>{b}, Column<T>{values}, n);
 }
 
 template <class T, class View, class VectorsView>
@@ -125,7 +132,7 @@ ZELM_INLINE ZelStatus symmetricVectorsObject(const View& src, T* b, const Vector
     return zelStatusOk;
   }
   symmetricCopy(src, b, n);
-  return symmetricVectorsOf(b, values, anyView(v), n, limits);
+  return symmetricVectorsOf(Column<T>{b}, Column<T>{values}, anyView(v), n, limits);
 }
 
 // Single objects.
@@ -149,7 +156,15 @@ constexpr int symmetricLaneSide = 12;
 constexpr bool symmetricFitsLanes(int32_t side, int32_t count) {
   return count > 1 && side >= 3 && side <= symmetricLaneSide;
 }
-template <class T> using SymmetricScratch = Lanes<T>[symmetricLaneSide * symmetricLaneSide];
+// Of N elements for each object of a block.
+template <class T, int N> struct SymmetricScratch {
+  Lanes<T> low[N];
+  Lanes<T> high[N];
+  ZELM_INLINE Column<SymmetricLane<T>> column() { return {low, high}; }
+  ZELM_INLINE Column<Lanes<T>> lowColumn() { return {low}; }
+};
+template <class T> using SymmetricMatrix = SymmetricScratch<T, symmetricLaneSide * symmetricLaneSide>;
+template <class T> using SymmetricColumn = SymmetricScratch<T, symmetricLaneSide>;
 
 // The values of all objects as one vector operand.
 template <class T> ZELM_INLINE Vectors<T, UnitStride> symmetricValuesOperand(const Plain<T>& values) {
@@ -163,24 +178,46 @@ template <class Objects, class V> ZELM_NOINLINE void symmetricStore(const Object
   storeElements(objects, lanes, n, n);
 }
 
+// Blocks of matrices or of values, of either half of a block of objects.
+template <class T, class Blocks> struct SymmetricHalves {
+  Blocks ofLow;
+  Blocks ofHigh;
+  explicit SymmetricHalves(const Blocks& blocks) : ofLow(blocks), ofHigh(blocks) {}
+  template <class B> ZELM_INLINE auto low(const B& block) { return ofLow.at(block.template low<laneCount<T>>()); }
+  template <class B> ZELM_INLINE auto high(const B& block) { return ofHigh.at(block.template high<laneCount<T>>()); }
+};
+// Do the objects of a block leave the second vector empty? Then there is none.
+template <class T, class B> ZELM_INLINE bool fitsOneVector(const B& block) {
+  return block.last < laneCount<T>;
+}
+template <class T, class Blocks> ZELM_INLINE SymmetricHalves<T, Blocks> halvesOf(const Blocks& blocks) {
+  return SymmetricHalves<T, Blocks>(blocks);
+}
+
 template <class Determinant, class Source, class T>
 ZELM_INLINE ZelStatus symmetricValues(const Source& src, const Buffer<T>& buffer, const Plain<T>& values, int32_t side,
                                       int32_t count) {
   const bool inLanes = symmetricFitsLanes(side, count);
   const auto valuesOperand = symmetricValuesOperand(values);
-  auto sources = matrixBlocks(src, side);
-  auto results = vectorBlocks(valuesOperand);
-  SymmetricScratch<T> matrix;
-  Lanes<T> lanes[symmetricLaneSide];
-  return forBlocks<laneCount<T>, isPointerLayout<Source>>(
+  auto sources = halvesOf<T>(matrixBlocks(src, side));
+  auto results = halvesOf<T>(vectorBlocks(valuesOperand));
+  SymmetricMatrix<T> matrix;
+  SymmetricColumn<T> lanes;
+  return forBlocks<2 * laneCount<T>, isPointerLayout<Source>>(
       count, areNeighbours(src),
       [&](auto block) ZELM_BODY {
         if (!inLanes)
           return false;
-        symmetricLoad(sources.at(block), matrix, side);
-        if (symmetricValuesOf(matrix, lanes, side) != zelStatusOk)
+        const bool one = fitsOneVector<T>(block);
+        symmetricLoad(sources.low(block), matrix.low, side);
+        if (!one)
+          symmetricLoad(sources.high(block), matrix.high, side);
+        if ((one ? symmetricValuesOf(matrix.lowColumn(), lanes.lowColumn(), side)
+                 : symmetricValuesOf(matrix.column(), lanes.column(), side)) != zelStatusOk)
           return false;
-        results.at(block).store(0, 0, int{side}, lanes);
+        results.low(block).store(0, 0, int{side}, lanes.low);
+        if (!one)
+          results.high(block).store(0, 0, int{side}, lanes.high);
         return true;
       },
       [&](int64_t k) ZELM_NOINLINE {
@@ -194,21 +231,31 @@ ZELM_INLINE ZelStatus symmetricVectors(const Source& src, const Buffer<T>& buffe
   const SymmetricLimits limits{Reduction::value, Product::value, true};
   const bool inLanes = symmetricFitsLanes(side, count);
   const auto valuesOperand = symmetricValuesOperand(values);
-  auto sources = matrixBlocks(src, side);
-  auto columns = matrixBlocks(vectors, side);
-  auto results = vectorBlocks(valuesOperand);
-  SymmetricScratch<T> matrix, vectorsOfLanes;
-  Lanes<T> lanes[symmetricLaneSide];
-  return forBlocks<laneCount<T>, isPointerLayout<Source>>(
+  auto sources = halvesOf<T>(matrixBlocks(src, side));
+  auto columns = halvesOf<T>(matrixBlocks(vectors, side));
+  auto results = halvesOf<T>(vectorBlocks(valuesOperand));
+  SymmetricMatrix<T> matrix, vectorsOfLanes;
+  SymmetricColumn<T> lanes;
+  return forBlocks<2 * laneCount<T>, isPointerLayout<Source>>(
       count, areNeighbours(src) && areNeighbours(vectors),
       [&](auto block) ZELM_BODY {
         if (!inLanes)
           return false;
-        symmetricLoad(sources.at(block), matrix, side);
-        if (symmetricVectorsOf(matrix, lanes, Square<Lanes<T>>{{vectorsOfLanes}, side}, side, limits) != zelStatusOk)
+        const bool one = fitsOneVector<T>(block);
+        symmetricLoad(sources.low(block), matrix.low, side);
+        if (!one)
+          symmetricLoad(sources.high(block), matrix.high, side);
+        const Square<Lanes<T>> vectorsOfOne{vectorsOfLanes.lowColumn(), side};
+        const Square<SymmetricLane<T>> vectorsOfTwo{vectorsOfLanes.column(), side};
+        if ((one ? symmetricVectorsOf(matrix.lowColumn(), lanes.lowColumn(), vectorsOfOne, side, limits)
+                 : symmetricVectorsOf(matrix.column(), lanes.column(), vectorsOfTwo, side, limits)) != zelStatusOk)
           return false;
-        symmetricStore(columns.at(block), vectorsOfLanes, side);
-        results.at(block).store(0, 0, int{side}, lanes);
+        symmetricStore(columns.low(block), vectorsOfLanes.low, side);
+        results.low(block).store(0, 0, int{side}, lanes.low);
+        if (!one) {
+          symmetricStore(columns.high(block), vectorsOfLanes.high, side);
+          results.high(block).store(0, 0, int{side}, lanes.high);
+        }
         return true;
       },
       [&](int64_t k) ZELM_NOINLINE {

@@ -274,10 +274,17 @@ template <class L> ZELM_INLINE bool anySmallProduct(const Column<L>& w, int n, d
 // ---------------------------------------------------------------------------------------------------------------------
 // All of it, from side 3 on
 
+template <class L> ZELM_INLINE Column<L> from(const Column<L>& x, int n) {
+  return {x.element + n};
+}
+template <class V> ZELM_INLINE Column<Pair<V>> from(const Column<Pair<V>>& x, int n) {
+  return {x.low + n, x.high + n};
+}
+
 template <class L, class V>
-ZELM_INLINE ZelStatus symmetricSolve(L* scratch, L* values, const V& v, int n, const SymmetricLimits& limits) {
-  const Square<L> b{{scratch}, n};
-  const Column<L> w{values};
+ZELM_INLINE ZelStatus symmetricSolve(const Column<L>& scratch, const Column<L>& w, const V& v, int n,
+                                     const SymmetricLimits& limits) {
+  const Square<L> b{scratch, n};
   if constexpr (hasVectors<V>)
     for (int i = 0; i < n; ++i)
       for (int j = 0; j < n; ++j)
@@ -285,7 +292,7 @@ ZELM_INLINE ZelStatus symmetricSolve(L* scratch, L* values, const V& v, int n, c
   symmetricReduce(b, w, v, n, static_cast<ElementOf<L>>(limits.reduction));
 
   // Diagonal and subdiagonal come to the front of the scratch.
-  const Column<L> d{scratch}, e{scratch + n};
+  const Column<L> d = scratch, e = from(scratch, n);
   for (int i = 1; i < n; ++i)
     d.store(i, b.load(i, i));
   for (int i = 0; i < n - 1; ++i)
@@ -296,11 +303,12 @@ ZELM_INLINE ZelStatus symmetricSolve(L* scratch, L* values, const V& v, int n, c
   turnWhere(down, d, v, n);
   turnWhere(down, e, NoVectors{}, n - 1);
   L product = splatInt<L>(1);
-  if (!symmetricIterate(d, e, v, n, down, product))
-    return zelStatusNoConvergence;
+  const bool converges = symmetricIterate(d, e, v, n, down, product);
   if constexpr (!hasVectors<V>)
     product = product * d.load(n - 1);
   turnWhere(down, d, v, n);
+  if (!converges)
+    return zelStatusNoConvergence;
 
   for (int i = 0; i < n; ++i)
     w.store(i, d.load(i));
