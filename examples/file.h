@@ -27,10 +27,11 @@ public:
     bool continued = false; // a line that ends in a backslash goes on in the next
   };
   Words(const File& source, Syntax how, std::size_t firstByte = 0, std::size_t firstLine = 1)
-      : file(source), syntax(how), at(firstByte), nextLine(firstLine) {}
+      : file(source), syntax(how), at(firstByte), nextLine(firstLine), thisLine(firstLine - 1) {}
 
   /// Goes on to the next line with words; false at the end of the file.
   bool next();
+  /// At the end of the file the last line.
   std::size_t line() const { return thisLine; }
   /// Bytes up to the end of the line.
   std::size_t position() const { return at; }
@@ -49,7 +50,7 @@ public:
 private:
   const File& file;
   Syntax syntax;
-  std::size_t at, nextLine, thisLine = 0;
+  std::size_t at, nextLine, thisLine;
   std::vector<std::string_view> words;
 };
 

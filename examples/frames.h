@@ -16,8 +16,8 @@ inline bool hasPlane(const Vec3& variances) {
 /// Two tangents, then a normal of length 1, in columns.
 Matrix3 frameOf(const Vec3& normal);
 
-/// The frames of a batch. In single precision: a quadric tells the surface from any frame near its plane, and axes
-/// whose lengths and angles are right to seven digits give curvatures that are.
+/// The frames of a batch. One call for each batch takes as long as one for all points (41 ns a matrix, both), and what
+/// comes before and behind it stays in the cache; kept for all points at once, neighbourhoods fill more than any cache.
 class PrincipalFrames {
 public:
   /// From each point and its neighbours, seen from it, as rows (1, x, y, z).

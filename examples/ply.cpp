@@ -96,7 +96,7 @@ Header readHeader(const File& file) {
       words.refuse("not a line of a header: " + Words::quoted(word));
   }
   if (words.count() == 0)
-    refuse(file, "the header has no end");
+    words.refuse("the file ends in the middle of its header");
   if (!format)
     words.refuse("the header tells no format");
   header.lines = words.line();
@@ -107,12 +107,11 @@ Header readHeader(const File& file) {
 // The values of elements, one after the other: words of lines, an element a line, or bytes.
 class AsciiValues {
 public:
-  AsciiValues(const File& source, const Header& header)
-      : file(source), words(source, {}, header.bytes, header.lines + 1) {}
+  AsciiValues(const File& source, const Header& header) : words(source, {}, header.bytes, header.lines + 1) {}
   void begin(const Element& element, std::size_t number) {
     if (!words.next())
-      ::refuse(file, "the file ends after " + std::to_string(number) + " of " + std::to_string(element.count) +
-                         " elements " + Words::quoted(element.name));
+      words.refuse("the file ends after " + std::to_string(number) + " of " + std::to_string(element.count) +
+                   " elements " + Words::quoted(element.name));
     at = 0;
   }
   double take(Type type) {
@@ -138,7 +137,6 @@ public:
   [[noreturn]] void refuse(const std::string& what) const { words.refuse(what); }
 
 private:
-  const File& file;
   Words words;
   std::size_t at = 0;
 };

@@ -40,7 +40,7 @@ Model readAscii(const File& file, Progress& progress) {
     }
     for (const auto& line : facet) {
       if (&line != facet && !words.next())
-        refuse(file, "the file ends in the middle of a facet");
+        words.refuse("the file ends in the middle of a facet");
       const std::size_t named = line.words[1].empty() ? 1 : 2;
       if (words[0] != line.words[0] || words.count() < named || (named == 2 && words[1] != line.words[1]))
         words.refuse("'" + std::string(line.words[0]) + "' should stand here, not " + Words::quoted(words[0]));
@@ -56,7 +56,7 @@ Model readAscii(const File& file, Progress& progress) {
       progress.at(words.position(), file.bytes.size());
   }
   if (inside)
-    refuse(file, "the file ends before endsolid");
+    words.refuse("the file ends before endsolid");
   return model;
 }
 
