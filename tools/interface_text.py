@@ -170,7 +170,9 @@ OVERVIEW = [
 
     "Arguments. Each operand is followed by its shift and strides in the order above: with ma in the standard layout X,\n"
     "XStride0, XStride1, XStride2; in the list layout X, XShift, XStride1, XStride2; in the pointer layout X, XShift,\n"
-    "XStride0. Sources come first, then the result, then sizes, then count.",
+    "XStride0. Sources come first, then the result, then sizes, then count; in products the\n"
+    "sizes of an operand stand behind it, and where a family has one pair of sizes for its source, they stand before the\n"
+    "result, as a buffer does.",
 
     "Status. A call tests its arguments before it does anything; the first test that fails gives the status, and\n"
     "nothing has been read or written but the arguments themselves. What list entries point to is not tested. Only\n"
@@ -564,8 +566,8 @@ GROUPS["MulVectors"] = {
     "notes": [
         "Sums are in the element type, of rounded products, not fused. For square matrices of sides 4 to 6 the order of\n"
         "the additions differs between forms, types and layouts, and between calls with and without unit strides; results\n"
-        "may then differ in the last bits. Other sizes, and some functions of the list layout at all sizes, start from +0.0,\n"
-        "which shows only where every product is -0.0.",
+        "may then differ in the last bits. Squares of side 3 start from the first product as well; other sizes, and some\n"
+        "functions of the list layout at all sizes, start from +0.0, which shows only where every product is -0.0.",
     ],
     "example": [
         "  Zel32f matrix[4][4] = {{1, 0, 0, 2}, {0, 1, 0, 3}, {0, 0, 1, 4}, {0, 0, 0, 1}}, points[100][4] = {{1, 2, 3, 1}};",
@@ -658,8 +660,8 @@ SQUARE_TESTS = (
 )
 STOPS = (
     "On one thread an array call stops at the first object that fails: objects before it are complete, objects behind\n"
-    "it are not written; some may have been read. On several threads a failure stops only the share of the thread that\n"
-    "met it."
+    "it are not written; some may have been read. Where n threads are configured and the call is spread\n"
+    "over threads, a failure stops only the share, one of n, that met it."
 )
 SOLVE_FORMS = {
     "mv": "solves A * dst = src2",
@@ -915,7 +917,8 @@ GROUPS["Det"] = {
     "tests": [SQUARE_TESTS + "."],
     "inplace": ["dst must not overlap src or buffer."],
     "failure": [
-        "Nothing fails once the tests have passed: a singular matrix has the determinant 0 and zelStatusOk.",
+        "Nothing fails once the tests have passed: a singular matrix has the determinant 0 and zelStatusOk. So has, of the\n"
+        "sides other than 3 to 6, one whose last pivot is a NaN; a NaN elsewhere mostly gives NaN.",
     ],
     "threads": [
         "m runs on the calling thread. ma is spread over threads when widthHeight*count, as a 32-bit integer that wraps, is\n"
@@ -1301,9 +1304,9 @@ EIGEN_TESTS = (
     "A null pointer (buffer included) gives zelStatusNullPointer, a widthHeight below 1 zelStatusBadSize, a count below 1\n"
     "zelStatusBadCount, tested in this order as far as the form has them. Then, in the standard layout, a stride below 1\n"
     "or not a multiple of the element size gives zelStatusBadStride; in the list and pointer layouts a shift below 0 or\n"
-    "not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride: first the shift\n"
-    "and the strides of src, then the shifts and the strides of the vectors."
+    "not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride, the shift first"
 )
+EIGEN_VECTORS_TESTS = EIGEN_TESTS + ":\nthose of src, then those of the vectors."
 EIGEN_ARRAYS = (
     "valuesRe and valuesIm are plain runs of widthHeight elements for each object, one object behind the other. They may\n"
     "not overlap src or buffer."
@@ -1318,7 +1321,7 @@ EIGEN_NO_CONVERGENCE = (
 )
 EIGEN_METHOD = (
     "Reduction to Hessenberg form by reflections (Householder 1958; Wilkinson 1965), double-shift QR iteration (Francis\n"
-    "1961) with exceptional shifts in the sweeps 10 and 20, standard form of the remaining blocks of two. There is no\n"
+    "1961) with exceptional shifts in the 11th and the 21st sweep, standard form of the remaining blocks of two. There is no\n"
     "balancing. All of it works on the transpose of src, which has the same eigenvalues."
 )
 EIGEN_EQUAL_DIAGONAL = (
@@ -1334,7 +1337,8 @@ EIGEN_SCALE = (
 )
 EIGEN_NAN = (
     "- NaN or infinite elements are not looked for: from side 3 on such a matrix usually ends with zelStatusNoConvergence\n"
-    "after all its sweeps, with sides 1 and 2 the values are NaN."
+    "after all its sweeps. With sides 1 and 2 a NaN that the values depend on shows in them; an infinite element may give\n"
+    "finite values, and vectors, that mean nothing."
 )
 
 
@@ -1358,7 +1362,7 @@ def eigen_vectors(family, title, forms, vectors, which, example):
             "buffer is scratch for one object, whatever the count, at any byte address; EigenValuesVectorsGetBufSize tells\n"
             "how many bytes. What it holds before and after has no meaning. Strides and shifts are in bytes.",
         ],
-        "tests": [EIGEN_TESTS],
+        "tests": [EIGEN_VECTORS_TESTS],
         "inplace": ["src may not overlap the results: an array call reads later objects after it has written earlier ones."],
         "failure": [
             EIGEN_NO_CONVERGENCE,
@@ -1406,7 +1410,7 @@ GROUPS["EigenValues"] = {
         "buffer is scratch for one object, whatever the count, at any byte address; EigenValuesGetBufSize tells how many\n"
         "bytes. What it holds before and after has no meaning. Strides and shifts are in bytes.",
     ],
-    "tests": [EIGEN_TESTS],
+    "tests": [EIGEN_TESTS + "."],
     "inplace": ["src may not overlap the results: an array call reads later objects after it has written earlier ones."],
     "failure": [EIGEN_NO_CONVERGENCE, STOPS],
     "threads": [
@@ -1436,7 +1440,7 @@ eigen_vectors(
     {"m": "right and left eigenvectors and eigenvalues of src",
      "ma": "right and left eigenvectors and eigenvalues of src[k]"},
     "have vectorsRight and vectorsLeft. With the complex columns\n"
-    "written out and D the diagonal matrix of the eigenvalues, vectorsRight holds x with transpose(x) * src = value *\n"
+    "written out, vectorsRight holds x with transpose(x) * src = value *\n"
     "transpose(x), vectorsLeft holds y with src * y = conj(value) * y: what is usually called a right vector of src is the\n"
     "conjugate of that.",
     "right and left eigenvectors",

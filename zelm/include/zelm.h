@@ -76,7 +76,8 @@ extern "C" {
  *
  * Arguments. Each operand is followed by its shift and strides in the order above: with ma in the standard layout X,
  * XStride0, XStride1, XStride2; in the list layout X, XShift, XStride1, XStride2; in the pointer layout X, XShift,
- * XStride0. Sources come first, then the result, then sizes, then count.
+ * XStride0. Sources come first, then the result, then sizes, then count; in products the sizes of an operand stand
+ * behind it, and where a family has one pair of sizes for its source, they stand before the result, as a buffer does.
  *
  * Status. A call tests its arguments before it does anything; the first test that fails gives the status, and nothing
  * has been read or written but the arguments themselves. What list entries point to is not tested. Only elements of
@@ -1927,8 +1928,8 @@ ZelStatus zelmMul_tata_64f_P(const Zel64f* const* src1, int32_t src1Shift, int32
  *
  * Notes. Sums are in the element type, of rounded products, not fused. For square matrices of sides 4 to 6 the order of
  * the additions differs between forms, types and layouts, and between calls with and without unit strides; results may
- * then differ in the last bits. Other sizes, and some functions of the list layout at all sizes, start from +0.0, which
- * shows only where every product is -0.0.
+ * then differ in the last bits. Squares of side 3 start from the first product as well; other sizes, and some functions
+ * of the list layout at all sizes, start from +0.0, which shows only where every product is -0.0.
  *
  * Example:
  *
@@ -2909,7 +2910,8 @@ ZelStatus zelmFrobNorm_ma_64f_P(const Zel64f* const* src, int32_t srcShift, int3
  *
  * In place. dst must not overlap src or buffer.
  *
- * Failure. Nothing fails once the tests have passed: a singular matrix has the determinant 0 and zelStatusOk.
+ * Failure. Nothing fails once the tests have passed: a singular matrix has the determinant 0 and zelStatusOk. So has,
+ * of the sides other than 3 to 6, one whose last pivot is a NaN; a NaN elsewhere mostly gives NaN.
  *
  * Threads. m runs on the calling thread. ma is spread over threads when widthHeight*count, as a 32-bit integer that
  * wraps, is at least 14401.
@@ -3345,8 +3347,8 @@ ZelStatus zelmTranspose_ma_64f_P(const Zel64f* const* src, int32_t srcShift, int
  * Scale matrices of such sides if their elements are small. A NaN pivot is not a failure.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * What the failing object leaves: for sides 3 to 6 in the standard and list layouts the rows of dst of finished steps
  * are final and the others as they were; in the pointer layout dst is untouched; for other sides dst holds the partly
@@ -3547,8 +3549,8 @@ ZelStatus zelmLUBackSubst_mava_64f_P(const Zel64f* const* src1, int32_t src1Shif
  * not a failure.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * The failing object's dst is partly written, up to the failing row.
  *
@@ -3755,8 +3757,8 @@ ZelStatus zelmCholeskyBackSubst_mava_64f_P(const Zel64f* const* src1, int32_t sr
  * zero at the end of R.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * The failing object's dst holds the finished columns and the partly reduced rest.
  *
@@ -3963,8 +3965,8 @@ ZelStatus zelmQRBackSubst_mava_64f_P(const Zel64f* const* src1, int32_t src1Shif
  * side 1 and nowhere else.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * A failing object leaves its dst untouched, but for sides 5 and 6 in 32f with unit strides, where its first row or two
  * hold anything. For side 4 in 32f, zelmInvert_ma with unit strides, rows of 16 bytes without gaps and everything
@@ -4060,9 +4062,9 @@ ZelStatus zelmInvert_ma_64f_P(const Zel64f* const* src, int32_t srcShift, int32_
  * and columns in reverse order; in the pointer layout that is the list of src in reverse order.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it. The status does not say which object failed: do the array again object by object, with m, to find it and to go on
- * behind it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it. The status does not say which object failed: do the array again
+ * object by object, with m, to find it and to go on behind it.
  *
  * Threads. m runs on the calling thread. ma is spread over threads when widthHeight*(widthHeight + 1)*count, as a
  * 32-bit integer that wraps, is at least 1001; the threads then have scratch of their own and leave buffer alone.
@@ -4171,9 +4173,9 @@ ZelStatus zelmEigenValuesSym_ma_64f_P(const Zel64f* const* src, int32_t srcShift
  * out in reverse order then, too.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it. The status does not say which object failed: do the array again object by object, with m, to find it and to go on
- * behind it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it. The status does not say which object failed: do the array again
+ * object by object, with m, to find it and to go on behind it.
  *
  * Threads. m runs on the calling thread. ma is spread over threads when widthHeight*(2*widthHeight + 1)*count, as a
  * 32-bit integer that wraps, is above 700; the threads then have scratch of their own and leave buffer alone.
@@ -4283,8 +4285,8 @@ ZelStatus zelmEigenValuesVectorsSym_ma_64f_P(const Zel64f* const* src, int32_t s
  * Tests. A null pointer (buffer included) gives zelStatusNullPointer, a widthHeight below 1 zelStatusBadSize, a count
  * below 1 zelStatusBadCount, tested in this order as far as the form has them. Then, in the standard layout, a stride
  * below 1 or not a multiple of the element size gives zelStatusBadStride; in the list and pointer layouts a shift below
- * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride: first the
- * shift and the strides of src, then the shifts and the strides of the vectors.
+ * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride, the shift
+ * first.
  *
  * In place. src may not overlap the results: an array call reads later objects after it has written earlier ones.
  *
@@ -4292,15 +4294,15 @@ ZelStatus zelmEigenValuesVectorsSym_ma_64f_P(const Zel64f* const* src, int32_t s
  * at the end of the object's valuesRe and valuesIm, the others are as they were. A singular matrix is not a failure.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * Threads. m runs on the calling thread. ma is spread over threads when widthHeight*(widthHeight+1)*count, as a 32-bit
  * integer that wraps, is at least 251; the threads then have scratch of their own and leave buffer alone.
  *
  * Method. Reduction to Hessenberg form by reflections (Householder 1958; Wilkinson 1965), double-shift QR iteration
- * (Francis 1961) with exceptional shifts in the sweeps 10 and 20, standard form of the remaining blocks of two. There
- * is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
+ * (Francis 1961) with exceptional shifts in the 11th and the 21st sweep, standard form of the remaining blocks of two.
+ * There is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
  *
  * Notes. - A block of two with equal diagonal elements is reported as a complex pair, also where its other elements
  * have one sign: the matrix {1, 2, 2, 1}, whose eigenvalues are 3 and -1, gives 1 + 2i and 1 - 2i. For symmetric
@@ -4313,7 +4315,8 @@ ZelStatus zelmEigenValuesVectorsSym_ma_64f_P(const Zel64f* const* src, int32_t s
  * result is NaN or zelStatusNoConvergence; below 1e-19 or 1e-154 they count as zero. Scale such matrices to elements
  * near 1 and the values back.
  * - NaN or infinite elements are not looked for: from side 3 on such a matrix usually ends with zelStatusNoConvergence
- * after all its sweeps, with sides 1 and 2 the values are NaN.
+ * after all its sweeps. With sides 1 and 2 a NaN that the values depend on shows in them; an infinite element may give
+ * finite values, and vectors, that mean nothing.
  *
  * Example:
  *
@@ -4369,9 +4372,8 @@ ZelStatus zelmEigenValues_ma_64f_P(const Zel64f* const* src, int32_t srcShift, i
  * are passed as rows the names have their usual meaning.
  *
  * Arguments. src has widthHeight rows and columns, and so have vectorsRight and vectorsLeft. With the complex columns
- * written out and D the diagonal matrix of the eigenvalues, vectorsRight holds x with transpose(x) * src = value *
- * transpose(x), vectorsLeft holds y with src * y = conj(value) * y: what is usually called a right vector of src is the
- * conjugate of that.
+ * written out, vectorsRight holds x with transpose(x) * src = value * transpose(x), vectorsLeft holds y with src * y =
+ * conj(value) * y: what is usually called a right vector of src is the conjugate of that.
  *
  * Column j belongs to value j and has the length 1. A complex pair (j, j + 1) has the real part of the vector of value
  * j in column j and its imaginary part in column j + 1, the length of both together being 1 and the largest component
@@ -4389,8 +4391,8 @@ ZelStatus zelmEigenValues_ma_64f_P(const Zel64f* const* src, int32_t srcShift, i
  * Tests. A null pointer (buffer included) gives zelStatusNullPointer, a widthHeight below 1 zelStatusBadSize, a count
  * below 1 zelStatusBadCount, tested in this order as far as the form has them. Then, in the standard layout, a stride
  * below 1 or not a multiple of the element size gives zelStatusBadStride; in the list and pointer layouts a shift below
- * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride: first the
- * shift and the strides of src, then the shifts and the strides of the vectors.
+ * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride, the shift
+ * first: those of src, then those of the vectors.
  *
  * In place. src may not overlap the results: an array call reads later objects after it has written earlier ones.
  *
@@ -4404,15 +4406,15 @@ ZelStatus zelmEigenValues_ma_64f_P(const Zel64f* const* src, int32_t srcShift, i
  * In all these cases the vectors of the object are as they were: they are written at the very end.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * Threads. m runs on the calling thread. ma is spread over threads when widthHeight*(3*widthHeight+1)*count, as a
  * 32-bit integer that wraps, is at least 501; the threads then have scratch of their own and leave buffer alone.
  *
  * Method. Reduction to Hessenberg form by reflections (Householder 1958; Wilkinson 1965), double-shift QR iteration
- * (Francis 1961) with exceptional shifts in the sweeps 10 and 20, standard form of the remaining blocks of two. There
- * is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
+ * (Francis 1961) with exceptional shifts in the 11th and the 21st sweep, standard form of the remaining blocks of two.
+ * There is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
  *
  * The transformations are accumulated; the vectors of the triangular rest come from substitution with growth control
  * and are transformed back. What is negligible is measured by its neighbours on the diagonal. In 64f the array forms
@@ -4430,7 +4432,8 @@ ZelStatus zelmEigenValues_ma_64f_P(const Zel64f* const* src, int32_t srcShift, i
  * result is NaN or zelStatusNoConvergence; below 1e-19 or 1e-154 they count as zero. Scale such matrices to elements
  * near 1 and the values back. Where shifts are single the bounds of 32f hold in 64f too.
  * - NaN or infinite elements are not looked for: from side 3 on such a matrix usually ends with zelStatusNoConvergence
- * after all its sweeps, with sides 1 and 2 the values are NaN.
+ * after all its sweeps. With sides 1 and 2 a NaN that the values depend on shows in them; an infinite element may give
+ * finite values, and vectors, that mean nothing.
  * - A vector whose sum of squares is below 2^-125 (32f) or 2^-1021 (64f) is not normalised.
  *
  * Example:
@@ -4529,8 +4532,8 @@ ZelStatus zelmEigenValuesVectors_ma_64f_P(const Zel64f* const* src, int32_t srcS
  * Tests. A null pointer (buffer included) gives zelStatusNullPointer, a widthHeight below 1 zelStatusBadSize, a count
  * below 1 zelStatusBadCount, tested in this order as far as the form has them. Then, in the standard layout, a stride
  * below 1 or not a multiple of the element size gives zelStatusBadStride; in the list and pointer layouts a shift below
- * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride: first the
- * shift and the strides of src, then the shifts and the strides of the vectors.
+ * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride, the shift
+ * first: those of src, then those of the vectors.
  *
  * In place. src may not overlap the results: an array call reads later objects after it has written earlier ones.
  *
@@ -4544,15 +4547,15 @@ ZelStatus zelmEigenValuesVectors_ma_64f_P(const Zel64f* const* src, int32_t srcS
  * In all these cases the vectors of the object are as they were: they are written at the very end.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * Threads. m runs on the calling thread. ma is spread over threads when widthHeight*(3*widthHeight+1)*count, as a
  * 32-bit integer that wraps, is at least 501; the threads then have scratch of their own and leave buffer alone.
  *
  * Method. Reduction to Hessenberg form by reflections (Householder 1958; Wilkinson 1965), double-shift QR iteration
- * (Francis 1961) with exceptional shifts in the sweeps 10 and 20, standard form of the remaining blocks of two. There
- * is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
+ * (Francis 1961) with exceptional shifts in the 11th and the 21st sweep, standard form of the remaining blocks of two.
+ * There is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
  *
  * The transformations are accumulated; the vectors of the triangular rest come from substitution with growth control
  * and are transformed back. What is negligible is measured by its neighbours on the diagonal. In 64f the shifts are
@@ -4570,7 +4573,8 @@ ZelStatus zelmEigenValuesVectors_ma_64f_P(const Zel64f* const* src, int32_t srcS
  * result is NaN or zelStatusNoConvergence; below 1e-19 or 1e-154 they count as zero. Scale such matrices to elements
  * near 1 and the values back. With single shifts the bounds of 32f hold in 64f too.
  * - NaN or infinite elements are not looked for: from side 3 on such a matrix usually ends with zelStatusNoConvergence
- * after all its sweeps, with sides 1 and 2 the values are NaN.
+ * after all its sweeps. With sides 1 and 2 a NaN that the values depend on shows in them; an infinite element may give
+ * finite values, and vectors, that mean nothing.
  * - A vector whose sum of squares is below 2^-125 (32f) or 2^-1021 (64f) is not normalised.
  *
  * Example:
@@ -4657,8 +4661,8 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_64f_P(const Zel64f* const* src, int32_t 
  * Tests. A null pointer (buffer included) gives zelStatusNullPointer, a widthHeight below 1 zelStatusBadSize, a count
  * below 1 zelStatusBadCount, tested in this order as far as the form has them. Then, in the standard layout, a stride
  * below 1 or not a multiple of the element size gives zelStatusBadStride; in the list and pointer layouts a shift below
- * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride: first the
- * shift and the strides of src, then the shifts and the strides of the vectors.
+ * 0 or not a multiple of the element size gives zelStatusBadShift, and such a stride zelStatusBadStride, the shift
+ * first: those of src, then those of the vectors.
  *
  * In place. src may not overlap the results: an array call reads later objects after it has written earlier ones.
  *
@@ -4672,15 +4676,15 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_64f_P(const Zel64f* const* src, int32_t 
  * In all these cases the vectors of the object are as they were: they are written at the very end.
  *
  * On one thread an array call stops at the first object that fails: objects before it are complete, objects behind it
- * are not written; some may have been read. On several threads a failure stops only the share of the thread that met
- * it.
+ * are not written; some may have been read. Where n threads are configured and the call is spread over threads, a
+ * failure stops only the share, one of n, that met it.
  *
  * Threads. m runs on the calling thread. ma is spread over threads when widthHeight*(3*widthHeight+1)*count, as a
  * 32-bit integer that wraps, is at least 501; the threads then have scratch of their own and leave buffer alone.
  *
  * Method. Reduction to Hessenberg form by reflections (Householder 1958; Wilkinson 1965), double-shift QR iteration
- * (Francis 1961) with exceptional shifts in the sweeps 10 and 20, standard form of the remaining blocks of two. There
- * is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
+ * (Francis 1961) with exceptional shifts in the 11th and the 21st sweep, standard form of the remaining blocks of two.
+ * There is no balancing. All of it works on the transpose of src, which has the same eigenvalues.
  *
  * The transformations are accumulated; the vectors of the triangular rest come from substitution with growth control
  * and are transformed back. What is negligible is measured by its neighbours on the diagonal. In 64f the shifts are
@@ -4698,7 +4702,8 @@ ZelStatus zelmEigenValuesVectorsLeft_ma_64f_P(const Zel64f* const* src, int32_t 
  * result is NaN or zelStatusNoConvergence; below 1e-19 or 1e-154 they count as zero. Scale such matrices to elements
  * near 1 and the values back. With single shifts the bounds of 32f hold in 64f too.
  * - NaN or infinite elements are not looked for: from side 3 on such a matrix usually ends with zelStatusNoConvergence
- * after all its sweeps, with sides 1 and 2 the values are NaN.
+ * after all its sweeps. With sides 1 and 2 a NaN that the values depend on shows in them; an infinite element may give
+ * finite values, and vectors, that mean nothing.
  * - A vector whose sum of squares is below 2^-125 (32f) or 2^-1021 (64f) is not normalised.
  *
  * Example:

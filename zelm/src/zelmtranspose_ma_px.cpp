@@ -7,6 +7,6 @@ KERNEL(ownzelmTranspose_ma_32f_S2,  TRANSPOSE_MA, S, ANY, float,  transpose<Size
 KERNEL(ownzelmTranspose_ma_64f_S2,  TRANSPOSE_MA, S, ANY, double, transpose<Sizes<3, 4, 5, 6>>)
 KERNEL(ownzelmTranspose_ma_32f_LS2, TRANSPOSE_MA, L, ANY, float,  transpose<Sizes<3, 4, 5, 6>>)
 KERNEL(ownzelmTranspose_ma_64f_LS2, TRANSPOSE_MA, L, ANY, double, transpose<Sizes<3, 4, 5, 6>>)
-KERNEL(ownzelmTranspose_ma_32f_P,   TRANSPOSE_MA, P, ANY, float,  transpose<Sizes<3, 4, 5, 6>>)
-KERNEL(ownzelmTranspose_ma_64f_P,   TRANSPOSE_MA, P, ANY, double, transpose<Sizes<3, 4, 5, 6>>)
+KERNEL(ownzelmTranspose_ma_32f_P,   TRANSPOSE_MA, P, ANY, float,  transpose<Sizes<>>)
+KERNEL(ownzelmTranspose_ma_64f_P,   TRANSPOSE_MA, P, ANY, double, transpose<Sizes<>>)
 // clang-format on
