@@ -149,4 +149,25 @@ TEST(Huge, AffineTransform) {
   });
 }
 
+// One bad point of a result that goes past the caches: before the first whole vector, in the midst of them, behind
+// them.
+TEST(Huge, BadPoint) {
+  const float matrix[16] = {2, 0, 0, 1, 0, 3, 0, 2, 0, 0, 4, 3, 0, 0, 1, 0};
+  const int count = hugeCount<float>(3);
+  std::vector<float> x(3 * static_cast<size_t>(count), 1.5f), y(x.size() + 1);
+  for (int threads : {1, 3})
+    for (int bad : {0, count / 2, count - 1}) {
+      const auto at = static_cast<size_t>(3 * bad);
+      x[at + 2] = 0;
+      omp_set_num_threads(threads);
+      EXPECT_EQ(zelmAffineTransform3DH_mva_32f(matrix, 16, 4, x.data(), 12, 4, &y[1], 12, 4, count),
+                zelStatusDivideByZero)
+          << "point " << bad << " threads " << threads;
+      omp_set_num_threads(1);
+      EXPECT_EQ(y[1 + at], large);
+      EXPECT_EQ(y[bad == 0 ? 4 : 1], 4.0f * (1.0f / 1.5f));
+      x[at + 2] = 1.5f;
+    }
+}
+
 } // namespace

@@ -36,7 +36,7 @@ double reciprocalRoot(double d, bool) {
   return 1.0 / std::sqrt(d);
 }
 
-// Objects that are positive definite (0); the same, but for some a pivot of which is at an edge (10).
+// Objects that are positive definite (0); the same, but for some, or the only one, a pivot of which is at an edge (10).
 template <class T> void fill(Typed<T>& job, Rng& rng, int kind) {
   if (kind != 0 && kind != 10)
     return;
@@ -47,7 +47,7 @@ template <class T> void fill(Typed<T>& job, Rng& rng, int kind) {
     for (int i = 0; i < n; ++i)
       for (int j = 0; j <= i; ++j)
         src.set(k, i, j, i == j ? T(n) + unit() : unit());
-    if (kind == 0 || !rng.chance(9))
+    if (kind == 0 || (job.count() > 1 && !rng.chance(9)))
       continue;
     // Row i is zero but for its pivot, which is d then.
     const int i = rng.below(n);

@@ -161,7 +161,8 @@ template <class T> void reachesAllBranches(Deflation deflation) {
     for (int b = 0; b < F::BranchCount; ++b)
       taken[b] = taken[b] || francis.taken[b];
   }
-  // A block of two that is triangular already is separated before; it could be met only with the last sweep spent.
+  // A block of two is met right after its subdiagonal element was found to be more than negligible, which is more than
+  // tiny: what a value leaves of the budget is at least one search for the next.
   for (int b = 0; b < F::BranchCount; ++b)
     EXPECT_TRUE(taken[b] || b == F::SmallC || (b == F::ColumnSum && deflation == Deflation::Absolute)) << b;
 }

@@ -423,6 +423,39 @@ TEST(EigenVectorsFailure, Failed) {
     }
 }
 
+// A real value whose vector meets a block of two that is not regular: the call ends well, and without the vectors. The
+// value is infinite, and so is the mean of a pair that overflows: every coefficient is NaN or negligible beside them.
+template <class T> void checkEndsWell(T a, T d, T b) {
+  const T inf = std::numeric_limits<T>::infinity();
+  const T rightEnds[9] = {a, -b, 0, b, d, 0, 0, 0, inf}, leftEnds[9] = {inf, 0, 0, 0, a, -b, 0, b, d};
+  for (Way way : {Way::Single, Way::Array, Way::OneKind})
+    for (Kind kind : {Kind::Right, Kind::Left}) {
+      if (way != Way::OneKind && kind == Kind::Left)
+        continue; // the right vectors come first
+      Result<T> r = emptyResult<T>(3, way == Way::Single ? 1 : 3);
+      const int place = r.count / 2;
+      for (int k = 0; k < r.count; ++k)
+        for (int e = 0; e < 9; ++e)
+          r.src[static_cast<size_t>(9 * k + e)] =
+              k == place ? (kind == Kind::Right ? rightEnds : leftEnds)[e] : T(e % 4 == 0 ? e + 1 : 0);
+      r.re.assign(r.re.size(), T(-77));
+      compute(r, way);
+      EXPECT_EQ(zelStatusOk, r.status);
+      for (int j = 0; j < 3; ++j) {
+        EXPECT_EQ(inf, r.re[static_cast<size_t>(3 * place + j)]) << j;
+        if (place + 1 < r.count) {
+          EXPECT_EQ(T(-77), r.re[static_cast<size_t>(3 * place + 3 + j)]);
+        }
+      }
+      for (size_t e = 0; e < r.vectors(kind).size(); ++e)
+        EXPECT_EQ(e >= static_cast<size_t>(9 * place) ? T(-77) : T(e % 4 == 0), r.vectors(kind)[e]) << e;
+    }
+}
+TEST(EigenVectorsFailure, EndsWell) {
+  checkEndsWell<float>(0x1.04378ap+127F, 0x1.f790e8p+126F, 0x1.4857c6p+124F);
+  checkEndsWell<double>(0x1.027e162d23359p+1023, 0x1.fb03d3a5b994cp+1022, -0x1.424214d4b53a1p+1018);
+}
+
 TEST(Thresholds, Numbers) {
   if (!countedBuild)
     GTEST_SKIP();

@@ -18,31 +18,34 @@ template <class T> constexpr int hugeCount(int each) {
   return (100 << 20) / (each * static_cast<int>(sizeof(T))) / 32 * 32 + 5;
 }
 
-// call(dst) writes what is expected and nothing beside it, with dst on a multiple of 32 bytes, 16 bytes behind it, and
-// one and three elements.
+// call(dst) writes what is expected and nothing beside it, with dst on a multiple of 32 bytes, 16 bytes behind it, one
+// and three elements, and one and two bytes.
 template <class T, class Call> void expectHuge(const std::vector<T>& expected, Call call) {
-  constexpr size_t vector = 32 / sizeof(T);
-  const size_t n = expected.size();
-  std::vector<T> memory(n + 3 * vector);
-  const size_t start = 2 * vector - reinterpret_cast<uintptr_t>(memory.data()) / sizeof(T) % vector;
+  static constexpr unsigned char beside = 0xa5;
+  const auto* const right = reinterpret_cast<const unsigned char*>(expected.data());
+  const size_t n = expected.size() * sizeof(T);
+  std::vector<unsigned char> memory(n + 128);
+  const size_t start = 64 - reinterpret_cast<uintptr_t>(memory.data()) % 32;
+  const auto check = [&](size_t offset, int threads) {
+    std::fill(memory.begin(), memory.end(), beside);
+    unsigned char* const dst = &memory[start + offset];
+    omp_set_num_threads(threads);
+    const ZelStatus status = call(reinterpret_cast<T*>(dst));
+    omp_set_num_threads(1);
+    ASSERT_EQ(zelStatusOk, status);
+    const auto wrong = static_cast<size_t>(std::mismatch(right, right + n, dst).first - right);
+    ASSERT_EQ(wrong, n) << "byte " << wrong % sizeof(T) << " of element " << wrong / sizeof(T) << " of "
+                        << expected.size() << ", offset " << offset << ", threads " << threads;
+    const auto isUntouched = [](unsigned char byte) { return byte == beside; };
+    ASSERT_TRUE(std::all_of(memory.data(), dst, isUntouched) &&
+                std::all_of(dst + n, memory.data() + memory.size(), isUntouched))
+        << "beside the result, offset " << offset;
+  };
   for (int threads : {1, 2})
-    for (size_t offset : {size_t{0}, size_t{1}, size_t{3}, 16 / sizeof(T)}) {
-      std::fill(memory.begin(), memory.end(), T(-1));
-      T* const dst = &memory[start + offset];
-      omp_set_num_threads(threads);
-      const ZelStatus status = call(dst);
-      omp_set_num_threads(1);
-      ASSERT_EQ(zelStatusOk, status);
-      const auto wrong = std::mismatch(expected.begin(), expected.end(), dst);
-      ASSERT_TRUE(wrong.first == expected.end())
-          << "element " << wrong.first - expected.begin() << " of " << n << " is " << *wrong.second << ", should be "
-          << *wrong.first << ", offset " << offset << ", threads " << threads;
-      for (T* beside = memory.data(); beside < memory.data() + memory.size(); ++beside)
-        if (beside == dst)
-          beside += n - 1;
-        else
-          ASSERT_EQ(T(-1), *beside) << "beside the result, offset " << offset;
-    }
+    for (size_t offset : {size_t{0}, sizeof(T), 3 * sizeof(T), size_t{16}})
+      check(offset, threads);
+  check(1, 1);
+  check(2, 2);
 }
 
 // call(first, count, dst) works on `count` objects from `first` on: all of them in one call, as in calls of 1000.

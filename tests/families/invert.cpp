@@ -363,7 +363,7 @@ template <class Job> void fill(Job& job, Rng& rng, int kind) {
     const int step = rng.below(n);
     const T edge = beside(limitOf<T>(n) * T(rng.chance(2) ? 1 : 2), rng.within(-1, 1));
     const T scale = static_cast<T>(std::ldexp(1.0, (sizeof(T) == 4 ? 1 : 8) * rng.within(-110, 110) / n));
-    const bool edged = rng.chance(3);
+    const bool edged = job.count() == 1 || rng.chance(3);
     for (int i = 0; i < n; ++i)
       for (int j = 0; j < n; ++j) {
         const bool entry = order[static_cast<size_t>(i)] == j;

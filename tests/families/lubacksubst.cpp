@@ -62,13 +62,15 @@ template <class Job> void reference(Job& job) {
   }
 }
 
-// Any permutation is an index; kind 20 keeps the identity, kind 21 has signed zeros on the diagonal. What lies behind
-// the one index of mva is nothing to read.
+// Any permutation is an index, and so are rows of which some appear twice; kind 20 keeps the identity, kind 21 has
+// signed zeros on the diagonal, in kind 22 all products are -0.0. What lies behind the one index of mva is nothing to
+// read.
 template <class Job> void fill(Job& job, Rng& rng, int kind) {
-  auto lu = job["src1"];
+  auto lu = job["src1"], b = job["src2"];
   auto index = job.ints("index");
   using T = decltype(lu(0, 0, 0));
   const int n = job.size("widthHeight");
+  const bool asItIs = kind == 21 || (kind > 0 && kind < 5 && rng.chance(16));
   std::vector<int> order(static_cast<size_t>(n));
   for (int k = 0; k < job.count(); ++k) {
     if (k > 0 && job.member().formName == "mva") {
@@ -79,12 +81,23 @@ template <class Job> void fill(Job& job, Rng& rng, int kind) {
     std::iota(order.begin(), order.end(), 0);
     for (int i = n - 1; i > 0 && kind != 20; --i)
       std::swap(order[static_cast<size_t>(i)], order[static_cast<size_t>(rng.below(i + 1))]);
+    if (kind != 20 && rng.chance(6))
+      order[static_cast<size_t>(rng.below(n))] = order[static_cast<size_t>(rng.below(n))];
     for (int i = 0; i < n; ++i) {
-      index.set(k, i, order[static_cast<size_t>(i)]);
+      const int row = order[static_cast<size_t>(i)];
+      index.set(k, i, row);
       if (kind == 21 && rng.chance(3))
-        lu.set(k, order[static_cast<size_t>(i)], i, rng.chance(2) ? T(0) : -T(0));
+        lu.set(k, row, i, rng.chance(2) ? T(0) : -T(0));
     }
+    for (int i = 0; i < n && !asItIs; ++i)
+      for (int j = 0; j < n; ++j) {
+        const int row = order[static_cast<size_t>(i)];
+        lu.set(k, row, j, kind == 22 ? T(rng.within(1, 9)) : moderate(lu(k, row, j), i == j, rng));
+      }
   }
+  for (int k = 0; k < job.count() && !asItIs; ++k)
+    for (int i = 0; i < n; ++i)
+      b.set(k, i, kind == 22 ? -T(0) : moderate(b(k, i), false, rng));
 }
 
 Family family() {
@@ -103,11 +116,16 @@ Family family() {
   // clang-format on
   f.reference = both([](auto& job) { reference(job); });
   f.fill = bothFill([](auto& job, Rng& rng, int kind) { fill(job, rng, kind); });
-  f.dataKinds = {0, 0, 1, 2, 3, 4, 20, 21};
+  f.dataKinds = {0, 0, 1, 2, 3, 4, 20, 21, 22};
   return f;
 }
 
 const Registration registration{family()};
+
+TEST(Results, LUBackSubstDataAreNumbers) {
+  expectNumbers<float>(member("zelmLUBackSubst_mava_32f"));
+  expectNumbers<double>(member("zelmLUBackSubst_mava_64f"));
+}
 
 // dst in place of src2: sides 3 to 6 with any index, the others with rows in order.
 TEST(Results, LUBackSubstInPlace) {

@@ -171,12 +171,12 @@ template <class Job> void reference(Job& job) {
   if (runs4By4(job.member(), s) && job.unit())
     d = {4, 4, 4};
   const bool fromProduct = startsWithProduct(job.member(), s, job.unit());
+  std::vector<decltype(src1(0, 0, 0))> terms(static_cast<size_t>(d.terms));
   for (int k = 0; k < job.count(); ++k)
     for (int i = 0; i < d.rows; ++i)
       for (int j = 0; j < d.columns; ++j) {
-        std::vector<decltype(src1(0, 0, 0))> terms;
         for (int l = 0; l < d.terms; ++l)
-          terms.push_back(src1(k, i, l) * src2(k, l, j));
+          terms[static_cast<size_t>(l)] = src1(k, i, l) * src2(k, l, j);
         dst.set(k, i, j, sum(terms, fromProduct));
       }
 }

@@ -25,7 +25,7 @@ template <class T> void fill(Typed<T>& job, Rng& rng, int kind) {
   auto src = job["src"];
   const int width = job.size("width"), height = job.size("height");
   for (int k = 0; k < job.count(); ++k) {
-    if (!rng.chance(9))
+    if (job.count() > 1 && !rng.chance(9))
       continue;
     // The columns before column c are those of the identity: their reflections change signs in their own rows only.
     const int c = rng.below(width);

@@ -1,4 +1,4 @@
-// Linear systems of known condition, and how well a batch of them is solved.
+// Linear systems: inputs whose solutions are numbers, systems of known condition, and how well a batch is solved.
 #ifndef ZELMTEST_SYSTEMS_H
 #define ZELMTEST_SYSTEMS_H
 
@@ -11,6 +11,47 @@
 #include <limits>
 
 namespace zelmtest {
+
+// An element of a factor, or of a right-hand side, as it is or, where it would drown all others, of moderate size. What
+// divides is not near zero either.
+template <class T> T moderate(T x, bool divides, Rng& rng) {
+  const T size = std::fabs(x);
+  if (divides ? size >= T(0.5) && size <= 4 : size <= 2) // false for a NaN
+    return x;
+  return (T(1) + T(rng.below(1000)) / T(1001)) * T(rng.chance(2) ? 1 : -1);
+}
+
+// Data whose results are NaN through and through show no fault: few of a back substitution's cases are of such data.
+template <class T> void expectNumbers(const Member& m) {
+  Rng rng(9);
+  int lost = 0, all = 0;
+  for (int kind : m.family->dataKinds)
+    for (const Sizes& sizes : m.shapes())
+      for (int trial = 0; trial < 8; ++trial, ++all) {
+        Sizes s = sizes;
+        if (m.hasCount)
+          s.set("count", 2);
+        Job job(m, s);
+        for (size_t o = 0; o < m.operands.size(); ++o)
+          if (!m.operands[o].output && !m.operands[o].integer)
+            fillDense(job.operands[o], rng, kind);
+        Typed<T> typed(job);
+        if constexpr (sizeof(T) == 4) {
+          m.family->fill.single(typed, rng, kind);
+          m.family->reference.single(typed);
+        } else {
+          m.family->fill.twofold(typed, rng, kind);
+          m.family->reference.twofold(typed);
+        }
+        const auto dst = typed["dst"];
+        bool none = true;
+        for (int k = 0; k < job.count; ++k)
+          for (int j = 0; j < dst.cols(); ++j)
+            none = none && std::isnan(dst(k, j));
+        lost += none;
+      }
+  EXPECT_LT(10 * lost, all) << m.name << ": " << lost << " of " << all;
+}
 
 // Q D R with a diagonal D from 1 down to 1 / condition and orthogonal Q and R, which are products of reflections; Q and
 // the transpose of R are the same in symmetric ones.

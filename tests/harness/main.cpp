@@ -6,8 +6,11 @@
 #include <omp.h>
 #include <xmmintrin.h>
 
+#include <dlfcn.h>
+
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace zelmtest {
 const bool countedBuild = ZELMTEST_COUNTED != 0;
@@ -23,6 +26,9 @@ int main(int argc, char** argv) {
     std::printf("control register at start: %#x\n", control);
     return 1;
   }
+  if (Dl_info library; !zelmtest::countedBuild && dladdr(reinterpret_cast<void*>(zelmGetLibVersion), &library) != 0 &&
+                       std::strstr(library.dli_fname, "glibc-hwcaps") == nullptr)
+    std::printf("no wider library for this processor: what runs is the one for all processors once more\n");
   omp_set_max_active_levels(1);
   omp_set_num_threads(1);
   zelmtest::installCrashReport();

@@ -179,6 +179,7 @@ struct Family {
   std::function<bool(const Sizes&)> needsNoKernel = nullptr;
   // Whether what the form says of in place holds for these sizes; by default it does for all.
   std::function<bool(const Member&, const Sizes&)> worksInPlace = nullptr;
+  std::vector<int> laneSides = {4, 5};                                 // sides of arrays whose objects go side by side
   std::map<std::string, std::function<void(Member&)>> exceptions = {}; // members that deviate from their form's row
 };
 

@@ -1,6 +1,7 @@
 #include "run.h"
 
 #include "paths.h"
+#include "steps.h"
 
 #include <omp.h>
 #include <unistd.h>
@@ -12,6 +13,7 @@
 #include <csignal>
 #include <limits>
 #include <numeric>
+#include <optional>
 #include <set>
 
 namespace zelmtest {
@@ -248,6 +250,8 @@ Placed place(const OperandInfo& op, const Dense& dense, Plan plan, size_t slot, 
   else if (!combed && plan.atEnd)
     base = placed.arena->end() - extent;
   int offset = spread == Spread::Pitch16 ? 0 : plan.offset;
+  if (op.integer && offset > 0)
+    offset = offset / 4 * 4;
   if (!combed && offset >= 0) {
     int off = (offset - static_cast<int>(reinterpret_cast<uintptr_t>(base) % 16) + 16) % 16;
     base += plan.atEnd ? (off == 0 ? 0 : off - 16) : off;
@@ -259,6 +263,7 @@ Placed place(const OperandInfo& op, const Dense& dense, Plan plan, size_t slot, 
   const Axis& k = axisOf('k');
   if (plan.far != 0)
     placed.arena->close();
+  placed.elements.reserve(static_cast<size_t>(dense.objects) * static_cast<size_t>(positions));
   for (int object = 0; object < dense.objects; ++object)
     for (int p = 0; p < positions; ++p) {
       int64_t inside = byPosition ? axisOf('e').offsets[static_cast<size_t>(p)]
@@ -306,7 +311,8 @@ struct Window {
 void addWindows(std::vector<Window>& windows, size_t operand, const Placed& placed, size_t elem, Rng& rng) {
   constexpr ptrdiff_t margin = 96;
   std::vector<unsigned char*> sorted = placed.elements;
-  std::sort(sorted.begin(), sorted.end());
+  if (!std::is_sorted(sorted.begin(), sorted.end()))
+    std::sort(sorted.begin(), sorted.end());
   unsigned char *begin = nullptr, *end = nullptr;
   auto close = [&] {
     if (begin == nullptr)
@@ -601,7 +607,11 @@ std::string runCase(const Member& m, const CaseSpec& asked) {
   announce(text);
   clearEntries();
   constexpr unsigned control = 0xffc0u; // the exception flags may change
+  std::optional<Steps> steps;
+  if (spec.steps != nullptr)
+    steps.emplace(*spec.steps);
   const ZelStatus status = callWith(m, slots, spec);
+  steps.reset();
   if ((_mm_getcsr() & control) != 0x1f80u) // as programs start, whatever came before
     return "the control register is not as it was: " + text;
   if (countedBuild) {

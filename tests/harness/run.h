@@ -44,6 +44,7 @@ struct CaseSpec {
   int team = allThreads; // those that run the threads' shares; all of them if there are not so many
   Team kind = Team::Plain;
   uint64_t seed = 0;
+  uint64_t* steps = nullptr; // takes the instructions of the call
 };
 
 // Empty if all is well, else one line that tells what is wrong and how to replay it.
