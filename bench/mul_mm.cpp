@@ -73,6 +73,49 @@ void addPacked(int n) {
 }
 // clang-format on
 
+// ---- column-major, as it is
+
+template <class T> auto byColumns(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), n * n * e, e, n * e, n, n, source<T>(b, 1), n * n * e, e, n * e, n, n, result<T>(b, 2),
+             n * n * e, e, n * e, b.count);
+  };
+}
+
+void addByColumns(int n) {
+  add(packed<Zel32f>("mama_columns", n, Arrays::both, BENCH_LIBRARY(zelmMul_mama_32f, byColumns<Zel32f>(n))));
+  add(packed<Zel64f>("mama_columns", n, Arrays::both, BENCH_LIBRARY(zelmMul_mama_64f, byColumns<Zel64f>(n))));
+}
+
+// ---- any shape: rows by terms by columns
+
+template <class T> auto shaped(int h, int n, int w) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), h * n * e, n * e, e, n, h, source<T>(b, 1), n * w * e, w * e, e, w, n, result<T>(b, 2),
+             h * w * e, w * e, e, b.count);
+  };
+}
+
+template <class T> void addShape(int h, int n, int w, std::vector<Contender> contenders) {
+  Case entry{caseName<T>("mama", h) + "x" + std::to_string(n) + "x" + std::to_string(w),
+             sizeof(T),
+             {array(h * n), array(n * w), results(h * w)},
+             std::move(contenders)};
+  entry.tolerance = sizeof(T) == 4 ? 1e-5 : 1e-13;
+  add(entry);
+}
+
+void addShapes() {
+  constexpr int shapes[][3] = {{2, 2, 2}, {2, 3, 2}, {3, 3, 4}, {3, 4, 4}, {4, 4, 3}, {6, 3, 3},
+                               {6, 6, 3}, {6, 3, 6}, {2, 6, 6}, {4, 6, 4}, {6, 12, 6}};
+  for (const auto& [h, n, w] : shapes) {
+    addShape<Zel32f>(h, n, w, BENCH_LIBRARY(zelmMul_mama_32f, shaped<Zel32f>(h, n, w)));
+    addShape<Zel64f>(h, n, w, BENCH_LIBRARY(zelmMul_mama_64f, shaped<Zel64f>(h, n, w)));
+  }
+}
+
 // ---- pointer layout: each element position a run of its own, one element from object to object
 
 struct Positions {
@@ -121,8 +164,11 @@ void addPointers(int n) {
 void registerMulMatrices() {
   for (const int n : {3, 4, 5, 6, 7, 8, 12, 16, 24, 32})
     addPacked(n);
-  for (int n = 3; n <= 6; ++n)
+  for (int n = 3; n <= 6; ++n) {
     addPointers(n);
+    addByColumns(n);
+  }
+  addShapes();
 }
 
 } // namespace bench

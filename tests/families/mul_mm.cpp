@@ -283,6 +283,66 @@ TEST(Thresholds, Numbers) {
   EXPECT_EQ("ownOMP_zelmMul_mam_32f", entered("zelmMul_mam_32f", 30000, 2));
 }
 
+// ---- Rows and columns that are runs
+
+// Matrices of an array by rows or by columns, without gaps or padded.
+template <class T> struct Laid {
+  int rows, columns, stride0, stride1, stride2;
+  std::vector<T> memory;
+  Laid(int height, int width, int count, bool byColumns, int pad) : rows(height), columns(width) {
+    const int e = sizeof(T);
+    const int longStep = ((byColumns ? height : width) + pad) * e;
+    stride1 = byColumns ? e : longStep;
+    stride2 = byColumns ? longStep : e;
+    stride0 = longStep * (byColumns ? width : height);
+    memory.assign(static_cast<size_t>(stride0 / e * count), T(0));
+  }
+  T& operator()(int k, int i, int j) {
+    const int e = sizeof(T);
+    return memory[static_cast<size_t>((k * stride0 + i * stride1 + j * stride2) / e)];
+  }
+};
+
+template <class T>
+using ByArray = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, int, T*, int, int, int,
+                              int);
+
+// Every shape, every operand by rows or by columns: one sum for all, but for the sign of a zero, of which there is
+// none.
+template <class T> void expectSameInRowsAndColumns(ByArray<T> mul) {
+  constexpr int count = 11;
+  for (int shape = 0; shape < 343; ++shape)
+    for (int kinds = 0; kinds < 16; ++kinds) {
+      const int h = shape % 7 + 1, n = shape / 7 % 7 + 1, w = shape / 49 + 1;
+      const int pad = kinds < 8 ? 0 : 1;
+      Laid<T> a(h, n, count, (kinds & 1) != 0, pad), b(n, w, count, (kinds & 2) != 0, pad);
+      Laid<T> d(h, w, count, (kinds & 4) != 0, pad);
+      const auto value = [](int k, int i, int j) { return T(1) + T(k * 7 + i * 5 + j * 3) / T(11); };
+      for (int k = 0; k < count; ++k)
+        for (int l = 0; l < n; ++l) {
+          for (int i = 0; i < h; ++i)
+            a(k, i, l) = value(k, i, l);
+          for (int j = 0; j < w; ++j)
+            b(k, l, j) = value(k + 1, l, j);
+        }
+      ASSERT_EQ(zelStatusOk, mul(a.memory.data(), a.stride0, a.stride1, a.stride2, n, h, b.memory.data(), b.stride0,
+                                 b.stride1, b.stride2, w, n, d.memory.data(), d.stride0, d.stride1, d.stride2, count));
+      for (int k = 0; k < count; ++k)
+        for (int i = 0; i < h; ++i)
+          for (int j = 0; j < w; ++j) {
+            T sum = value(k, i, 0) * value(k + 1, 0, j);
+            for (int l = 1; l < n; ++l)
+              sum = sum + value(k, i, l) * value(k + 1, l, j);
+            ASSERT_EQ(sum, d(k, i, j)) << h << " by " << n << " by " << w << ", kinds " << kinds;
+          }
+    }
+}
+
+TEST(Results, RowsAndColumns) {
+  expectSameInRowsAndColumns<float>(zelmMul_mama_32f);
+  expectSameInRowsAndColumns<double>(zelmMul_mama_64f);
+}
+
 // Matrices of side N, one of them or an array; `from` is the first of the objects that the arrays are taken from.
 template <class T, int N, class Call> void expectHugeProducts(Call call) {
   constexpr int each = N * N, row = N * static_cast<int>(sizeof(T));
@@ -297,9 +357,6 @@ template <class T>
 using BySingle = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, T*, int, int, int, int);
 template <class T>
 using SingleBy = ZelStatus (*)(const T*, int, int, int, int, const T*, int, int, int, int, int, T*, int, int, int, int);
-template <class T>
-using ByArray = ZelStatus (*)(const T*, int, int, int, int, int, const T*, int, int, int, int, int, T*, int, int, int,
-                              int);
 template <class T, int N> void expectHugeBySingle(BySingle<T> mul) {
   expectHugeProducts<T, N>([mul](const T* a, const T* b, int from, T* dst, int object, int row, int count) {
     constexpr int E = sizeof(T);

@@ -1,5 +1,5 @@
 // Kernels on two-wide `64f` vectors: Mul on an array of matrices and a single one, unit strides.
-#include "zelmmul_mm.h"
+#include "zelmmul_rows.h"
 
 // clang-format off
 //     kernel                arguments  strides  type    body      straight-line sizes
@@ -12,3 +12,5 @@ KERNEL(ownzelmMul_mat_64f_L, MUL_MAT, L, UNIT,    double, multiply<Sizes<3, 4, 5
 KERNEL(ownzelmMul_tam_64f_L, MUL_TAM, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
 KERNEL(ownzelmMul_tat_64f_L, MUL_TAT, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
 // clang-format on
+
+ZELM_PRODUCTS_OF_ROWS(double, false, true)

@@ -1,5 +1,5 @@
 // Kernels on four-wide `32f` vectors: Mul on two arrays of matrices, unit strides.
-#include "zelmmul_mm.h"
+#include "zelmmul_rows.h"
 
 // clang-format off
 //     kernel                 arguments   strides  type   body      straight-line sizes
@@ -12,3 +12,5 @@ KERNEL(ownzelmMul_mata_32f_L, MUL_MATA, L, UNIT,    float, multiply<Sizes<3, 4, 
 KERNEL(ownzelmMul_tama_32f_L, MUL_TAMA, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
 KERNEL(ownzelmMul_tata_32f_L, MUL_TATA, L, UNIT,    float, multiply<Sizes<3, 4, 5, 6>>)
 // clang-format on
+
+ZELM_PRODUCTS_OF_ROWS(float, false, false)

@@ -1,5 +1,5 @@
 // Kernels on two-wide `64f` vectors: Mul on a single matrix and an array of matrices, unit strides.
-#include "zelmmul_mm.h"
+#include "zelmmul_rows.h"
 
 // clang-format off
 //     kernel                arguments  strides  type    body      straight-line sizes
@@ -12,3 +12,5 @@ KERNEL(ownzelmMul_mta_64f_L, MUL_MTA, L, UNIT,    double, multiply<Sizes<3, 4, 5
 KERNEL(ownzelmMul_tma_64f_L, MUL_TMA, L, UNIT,    double, multiply<Sizes<3, 4, 5, 6>>)
 KERNEL(ownzelmMul_tta_64f_L, MUL_TTA, L, UNIT,    double, multiply<Sizes<>>)
 // clang-format on
+
+ZELM_PRODUCTS_OF_ROWS(double, true, false)

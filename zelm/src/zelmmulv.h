@@ -7,6 +7,7 @@
 #pragma once
 
 #include "zelmmulvsignature.h"
+#include "zelmproduct.h"
 #include "zelmsum.h"
 #include "zelmtriples.h"
 
@@ -707,6 +708,8 @@ template <class T> constexpr bool isInterleaved<MatricesP<T>> = true;
 template <class T> constexpr bool isInterleaved<VectorsP<T>> = true;
 template <class Operand> constexpr bool isInterleaved<Transposed<Operand>> = isInterleaved<Operand>;
 
+template <class Operand> constexpr bool isStrided = decltype(std::declval<const Operand&>().object(0))::strided;
+
 template <class T> ZELM_INLINE bool packedSide(const Matrices<T, UnitStride>& x, int32_t n) {
   return x.packed(n, n);
 }
@@ -763,6 +766,63 @@ ZELM_NOINLINE int64_t multiplyPacked(A stored, B src2, C src3, D dst, int64_t co
     return multiplyStraight<Tree, RowLanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
 }
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Kernels for any strides: what lies in runs all the same
+
+// A matrix of any strides, transposed or not.
+template <class T> struct AnyMatrix {
+  static constexpr bool isArray = false;
+  StridedMatrixView<const T, AnyStep, AnyStep> view;
+  ZELM_INLINE const auto& object(int64_t, int64_t) const { return view; }
+};
+
+template <class> constexpr bool hasAnyStride = false;
+template <class T> constexpr bool hasAnyStride<Vectors<T, AnyStride>> = true;
+template <class Operand> ZELM_INLINE bool hasUnitStride(const Operand& x) {
+  if constexpr (isAddend<Operand>)
+    return x.unit();
+  else
+    return true;
+}
+template <class Operand> ZELM_INLINE auto asUnit(const Operand& x) {
+  if constexpr (isAddend<Operand>)
+    return x.template forKernel<UnitStride>();
+  else
+    return x;
+}
+
+// A single matrix, which may lie as it likes, and packed vectors. Returns the first object not done.
+template <class Tree, int N, class A, class B, class C, class D>
+ZELM_INLINE int64_t multiplyPackedVectors(const A& src1, const B& src2, const C& src3, const D& dst, int64_t count) {
+  using T = typename D::Element;
+  if (!hasUnitStride(src2) || !hasUnitStride(src3) || !hasUnitStride(dst))
+    return 0;
+  const auto source = asUnit(src2);
+  const auto addend = asUnit(src3);
+  const auto result = asUnit(dst);
+  if (!canPack(source, N) || !canPack(addend, N) || !canPack(result, N))
+    return 0;
+  const auto matrix = src1.object(0, N);
+  return multiplyPacked<Tree, N, false>(AnyMatrix<T>{{matrix.origin, matrix.rowStep, matrix.columnStep}},
+                                        asPacked<N>(source), asPacked<N>(addend), asPacked<N>(result), count);
+}
+
+// The columns of the matrices are runs, and so are the vectors: lanes are the elements of a result. Of three elements
+// they would be too few.
+template <class Tree, int N, class A, class B, class C, class D>
+ZELM_INLINE bool multiplyColumnRuns(const A& src1, const B& src2, const C&, const D& dst, int64_t count) {
+  using T = typename D::Element;
+  if constexpr (N > 3 && std::is_same_v<Tree, Chain> && !isAddend<C>) {
+    const auto matrices = objectsOf(src1);
+    const auto result = objectsOf(dst);
+    if (matrices.unitColumns() && result.unitColumns()) {
+      multiplyShape<T>(matrices, objectsOf(src2), result, {N, N, 1}, termFirst<T>, count);
+      return true;
+    }
+  }
+  return false;
+}
+
 template <class Tree, int N, class A, class B, class C, class D>
 inline void multiplySide(const A& src1, const B& src2, const C& src3, const D& dst, int32_t count) {
   using T = typename D::Element;
@@ -776,6 +836,11 @@ inline void multiplySide(const A& src1, const B& src2, const C& src3, const D& d
   } else if constexpr (isInterleaved<D>) {
     if (neighboursOrSingle(src1) && neighboursOrSingle(src2) && neighboursOrSingle(src3) && neighboursOrSingle(dst))
       k = multiplyStraight<Tree, RowLanes<T>, N, transposed>(stored, src2, src3, dst, 0, count);
+  } else if constexpr (isStrided<D> && !hasUnitRows<D>) {
+    if constexpr (!A::isArray && hasAnyStride<D>)
+      k = multiplyPackedVectors<Tree, N>(src1, src2, src3, dst, count);
+    if (k == 0 && multiplyColumnRuns<Tree, N>(src1, src2, src3, dst, count))
+      return;
   }
   multiplyStraight<Tree, T, N, transposed>(stored, src2, src3, dst, k, count);
 }
@@ -864,9 +929,17 @@ template <class C> ZELM_INLINE auto addendObject(const C& src3, int64_t k) {
 template <class A, class B, class C, class D>
 inline void multiplyAnySize(const A& src1, int32_t width, int32_t height, const B& src2, const C& src3, const D& dst,
                             int32_t count) {
+  using T = typename D::Element;
+  const ProductShape shape{isTransposed<A> ? width : height, isTransposed<A> ? height : width, 1};
+  if constexpr (isStrided<D> && !isAddend<C>) {
+    // Longer columns that fill vectors are quick by themselves, and few lanes gain nothing.
+    const bool isShort = shape.rows <= longestShort && shape.terms <= longestShort;
+    if (isShort || (laneCount<T> >= 8 && shape.rows % rowLaneCount<T> != 0 && goesInLanes(shape, count)))
+      return multiplyShape<T>(objectsOf(src1), objectsOf(src2), objectsOf(dst), shape, zeroFirst<T>, count);
+  }
   for (int32_t k = 0; k < count; ++k)
-    multiplyGeneral(src1.object(k, width), src2.object(k), addendObject(src3, k), dst.object(k),
-                    isTransposed<A> ? width : height, isTransposed<A> ? height : width);
+    multiplyGeneral(src1.object(k, width), src2.object(k), addendObject(src3, k), dst.object(k), shape.rows,
+                    shape.terms);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
