@@ -167,8 +167,13 @@ Family family() {
       {ZELMTEST_ARRAY(zelmLUDecomp_ma), "src:ma index:I dst:ma widthHeight count", {"NCZS", "NCZSH", "NCZSH"}, "src", estimate, limits, limits},
   };
   // clang-format on
-  f.delegate = [](const Member& m, const Sizes& s, bool unit) {
-    return isFixed(s.get("widthHeight")) ? "" : m.kernelOfOne(m.layout == 'P' ? "_P_com" : unit ? "_S_com" : "_S2_com");
+  // The general loop takes all objects of a kernel at once.
+  f.delegateOfAll = [](const Job& job) -> std::string {
+    const Member& m = job.member;
+    return isFixed(job.sizes.get("widthHeight")) ? ""
+                                                 : m.kernelOfOne(m.layout == 'P' ? "_P_com"
+                                                                 : job.unit      ? "_S_com"
+                                                                                 : "_S2_com");
   };
   f.reference = both([](auto& job) { reference(job); });
   f.fill = bothFill([](auto& job, Rng& rng, int kind) { fill(job, rng, kind); });

@@ -1,14 +1,15 @@
 // What LU needs beside the blocks of zelmblock.h: choices lane by lane, since each object has pivots of its own, and
 // elements found by an index that differs from lane to lane.
 //
-// The last block of a batch is filled up with the batch's last object. Its lanes compute the same values and store them
-// to the same place, so no lane needs to be left out. Everything is read before anything is stored, so in place works
-// as it does for one object.
+// Everything is read before anything is stored, so in place works as it does for one object.
 #pragma once
 
 #include "zelmblock.h"
 
 namespace zelm {
+
+// Matrices of other sides than 3 to 6 go in lanes, through memory, up to this one.
+constexpr int luLaneSide = 16;
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Choices lane by lane
@@ -73,39 +74,11 @@ private:
 };
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Objects whose rows lie together
+// Rows by index: each lane has its own
 
-// body(w, object) for the lanes of the block that starts at object k.
-template <class T, class Body> ZELM_INLINE void forLanes(int64_t k, int64_t count, const Body& body) {
-  constexpr int W = laneCount<T>;
-  if (k + W <= count) {
-    ZELM_UNROLL
-    for (int w = 0; w < W; ++w)
-      body(w, k + w);
-  } else {
-    for (int w = 0; w < W; ++w)
-      body(w, k + w < count ? k + w : count - 1);
-  }
-}
-
-// The first element of objects k, k + 1, ...: matrices, vectors, and plain arrays of `each` elements an object. Calls
-// of their own: inlined into every size of every kernel they would be larger than all the arithmetic.
-template <class Operand> ZELM_NOINLINE auto matrixAddresses(const Operand& x, int64_t k, int64_t count) {
-  using T = typename Operand::Element;
-  using C = std::remove_pointer_t<decltype(x.object(0, 0).address(0, 0))>;
-  ObjectAddresses<T, C> addresses;
-  forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.object(object, 0).address(0, 0); });
-  return addresses;
-}
-template <class Operand> ZELM_NOINLINE auto vectorAddresses(const Operand& x, int64_t k, int64_t count) {
-  using T = typename Operand::Element;
-  using C = std::remove_pointer_t<decltype(x.object(0).address(0))>;
-  ObjectAddresses<T, C> addresses;
-  forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.object(object).address(0); });
-  return addresses;
-}
+// The entries of the objects of a block in a plain run.
 template <class T, class I> struct PlainAddresses { I* of[laneCount<T>]; };
-// Of a whole block, N elements an object.
+// Of neighbours, N entries an object.
 template <int N, class T, class I> struct PlainRun {
   I* first;
   ZELM_INLINE operator PlainAddresses<T, I>() const {
@@ -116,106 +89,89 @@ template <int N, class T, class I> struct PlainRun {
     return addresses;
   }
 };
-template <class T, class I> ZELM_NOINLINE auto plainAddresses(const Plain<I>& x, int64_t k, int64_t count) {
+// A call of its own: inlined into every size of every kernel it would be larger than the arithmetic.
+template <class T, class I> ZELM_NOINLINE auto plainAddresses(const Plain<I>& x, int64_t first, int last) {
   PlainAddresses<T, I> addresses;
-  forLanes<T>(k, count, [&](int w, int64_t object) { addresses.of[w] = x.pointer + object * x.each; });
+  for (int w = 0; w < laneCount<T>; ++w)
+    addresses.of[w] = x.pointer + (first + smaller(w, last)) * x.each;
   return addresses;
 }
-
-// R rows of C elements, rowStep bytes apart.
-template <class T, class B, int R, int C>
-ZELM_INLINE void loadRows(const ObjectAddresses<T, B>& x, int64_t rowStep, Tile<Lanes<T>, R, C>& tile) {
-  if (rowStep == C * static_cast<int64_t>(sizeof(T))) {
-    loadRun<R * C, T>(x, 0, tile.element);
-  } else {
-    ZELM_UNROLL
-    for (int i = 0; i < R; ++i)
-      loadRun<C, T>(x, i * rowStep, tile.element + i * C);
-  }
-}
-template <class T, int R, int C>
-ZELM_INLINE void storeRows(const ObjectAddresses<T, char>& x, int64_t rowStep, const Tile<Lanes<T>, R, C>& tile) {
-  if (rowStep == C * static_cast<int64_t>(sizeof(T))) {
-    storeRun<R * C, T>(x, 0, tile.element);
-  } else {
-    ZELM_UNROLL
-    for (int i = 0; i < R; ++i)
-      storeRun<C, T>(x, i * rowStep, tile.element + i * C);
-  }
+// of(block) is where the entries of a block are, N for each object.
+template <int N, class T, class B, class I> ZELM_INLINE auto entriesOf(const Plain<I>& x, const B& block) {
+  if constexpr (B::neighbours)
+    return PlainRun<N, T, I>{x.pointer + block.first * N};
+  else
+    return plainAddresses<T>(x, block.first, block.last);
 }
 
-// ---------------------------------------------------------------------------------------------------------------------
-// Objects whose elements lie anywhere: any strides, pointer layout
-
-// Element e of object k is at position[e] + object(k); the sum is an address. Each of the two alone need not be one.
-template <int Elements> struct Positions { std::intptr_t of[Elements]; };
-
-template <int N, class Operand> ZELM_INLINE auto matrixPositions(const Operand& x) {
-  Positions<N * N> positions;
-  for (int i = 0; i < N; ++i)
-    for (int j = 0; j < N; ++j) {
-      if constexpr (decltype(x.object(0, 0))::strided)
-        positions.of[i * N + j] = i * static_cast<int64_t>(x.stride1) + j * static_cast<int64_t>(x.stride2);
-      else
-        positions.of[i * N + j] = reinterpret_cast<std::intptr_t>(x.list[i * N + j]);
+// Their first two entries, in lanes as wide as T.
+template <class T> ZELM_INLINE void loadEntryPairs(const PlainAddresses<T, const int32_t>& index, Lanes<T>* lanes) {
+  if constexpr (sizeof(T) == sizeof(int32_t)) {
+    StridedBlock<const T, UnitStep<const T>> bits{{}, 0, {}};
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      bits.objects.of[w] = reinterpret_cast<const char*>(index.of[w]);
+    bits.load(0, 0, Fixed<2>{}, lanes);
+  } else {
+    for (int i = 0; i < 2; ++i) {
+      IntegerOf<Lanes<T>> p{};
+      ZELM_UNROLL
+      for (int w = 0; w < laneCount<T>; ++w)
+        p[w] = index.of[w][i];
+      lanes[i] = reinterpret_cast<Lanes<T>>(p);
     }
-  return positions;
-}
-template <int N, class Operand> ZELM_INLINE auto vectorPositions(const Operand& x) {
-  Positions<N> positions;
-  for (int j = 0; j < N; ++j) {
-    if constexpr (decltype(x.object(0))::strided)
-      positions.of[j] = j * static_cast<int64_t>(x.stride2);
-    else
-      positions.of[j] = reinterpret_cast<std::intptr_t>(x.list[j]);
   }
-  return positions;
+}
+template <class T> ZELM_INLINE void storeEntryPairs(const PlainAddresses<T, int32_t>& index, const Lanes<T>* lanes) {
+  if constexpr (sizeof(T) == sizeof(int32_t)) {
+    StridedBlock<T, UnitStep<T>> bits{{}, 0, {}};
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      bits.objects.of[w] = reinterpret_cast<char*>(index.of[w]);
+    bits.store(0, 0, Fixed<2>{}, lanes);
+  } else {
+    for (int i = 0; i < 2; ++i) {
+      const auto p = reinterpret_cast<IntegerOf<Lanes<T>>>(lanes[i]);
+      ZELM_UNROLL
+      for (int w = 0; w < laneCount<T>; ++w)
+        index.of[w][i] = static_cast<int32_t>(p[w]);
+    }
+  }
 }
 
-template <class T> struct ObjectOffsets {
-  std::intptr_t of[laneCount<T>];
-  ZELM_INLINE char* address(std::intptr_t position, int w) const { return reinterpret_cast<char*>(position + of[w]); }
-  ZELM_INLINE Lanes<T> load(std::intptr_t position) const {
-    return gatherLanes<T>([&](int w) ZELM_BODY { return address(position, w); });
+// n elements of row index.of[w][i] of the object in lane w.
+template <class T, class Objects, class Index, class N>
+ZELM_INLINE void loadRowByIndex(const Objects& objects, const Index& index, int i, N n, Lanes<T>* lanes) {
+  if constexpr (Objects::unit) {
+    StridedBlock<const T, UnitStep<const T>> row{{}, 0, {}};
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      row.objects.of[w] = objects.address(index.of[w][i], 0, w);
+    row.load(0, 0, n, lanes);
+  } else {
+    ascending(Fixed<0>{}, n, [&](auto j) ZELM_BODY {
+      lanes[j] = gatherLanes<T>([&](int w) ZELM_BODY { return objects.address(index.of[w][i], j, w); });
+    });
   }
-  ZELM_INLINE void store(std::intptr_t position, const Lanes<T>& lanes) const {
-    scatterLanes<T>([&](int w) ZELM_BODY { return address(position, w); }, lanes);
+}
+template <class T, class Objects, class Index, class N>
+ZELM_INLINE void storeRowByIndex(const Objects& objects, const Index& index, int i, N n, const Lanes<T>* lanes) {
+  if constexpr (Objects::unit) {
+    StridedBlock<T, UnitStep<T>> row{{}, 0, {}};
+    ZELM_UNROLL
+    for (int w = 0; w < laneCount<T>; ++w)
+      row.objects.of[w] = objects.address(index.of[w][i], 0, w);
+    row.store(0, 0, n, lanes);
+  } else {
+    ascending(Fixed<0>{}, n, [&](auto j) ZELM_BODY {
+      scatterLanes<T>([&](int w) ZELM_BODY { return objects.address(index.of[w][i], j, w); }, lanes[j]);
+    });
   }
-};
-
-// Pointer layout where stride0 is the element size: the objects of a whole block are neighbours at each position.
-template <class T> struct NeighbourOffsets {
-  std::intptr_t first;
-  ZELM_INLINE char* address(std::intptr_t position, int w) const {
-    return reinterpret_cast<char*>(position + first) + w * static_cast<int>(sizeof(T));
-  }
-  ZELM_INLINE Lanes<T> load(std::intptr_t position) const { return loadLanes<T>(address(position, 0)); }
-  ZELM_INLINE void store(std::intptr_t position, const Lanes<T>& lanes) const {
-    storeLanes(address(position, 0), lanes);
-  }
-};
-
-template <class Operand> ZELM_INLINE std::intptr_t objectOffset(const Operand& x, int64_t k) {
-  return reinterpret_cast<std::intptr_t>(x.object(k, 0).address(0, 0));
 }
-template <class T, class Stride> ZELM_INLINE std::intptr_t objectOffset(const Vectors<T, Stride>& x, int64_t k) {
-  return reinterpret_cast<std::intptr_t>(x.object(k).address(0));
-}
-template <class T, class Stride> ZELM_INLINE std::intptr_t objectOffset(const VectorsL<T, Stride>& x, int64_t k) {
-  return reinterpret_cast<std::intptr_t>(x.object(k).address(0));
-}
-template <class T> ZELM_INLINE std::intptr_t objectOffset(const MatricesP<T>& x, int64_t k) {
-  return x.offset + k * x.stride0;
-}
-template <class T> ZELM_INLINE std::intptr_t objectOffset(const VectorsP<T>& x, int64_t k) {
-  return x.offset + k * x.stride0;
-}
-
-template <class Operand> ZELM_NOINLINE auto objectOffsets(const Operand& x, int64_t k, int64_t count) {
-  using T = typename Operand::Element;
-  ObjectOffsets<T> offsets;
-  forLanes<T>(k, count, [&](int w, int64_t object) { offsets.of[w] = objectOffset(x, object); });
-  return offsets;
+// Element index.of[w][i] of the vector in lane w.
+template <class T, class Objects, class Index>
+ZELM_INLINE Lanes<T> loadByIndex(const Objects& vectors, const Index& index, int i) {
+  return gatherLanes<T>([&](int w) ZELM_BODY { return vectors.address(0, index.of[w][i], w); });
 }
 
 } // namespace zelm

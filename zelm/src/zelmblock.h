@@ -52,20 +52,35 @@ ZELM_INLINE void storePairs(const ObjectAddresses<float, char>& x, int64_t offse
 // column j on, n known to the compiler or not; `straight` are those with
 // vector loads and stores, for which it should be.
 
-// Standard and list layout; a vector is a row.
-template <class T, class ColumnStep> struct StridedBlock {
+// Standard and list layout; a vector is a row. The addresses of the objects are the block's own or those of another
+// block, which are not copied: what was just written one by one cannot be read in larger pieces without a delay.
+template <class T, class ColumnStep, bool OwnAddresses = true> struct StridedBlock {
   using Element = std::remove_const_t<T>;
+  using Addresses = ObjectAddresses<Element, Byte<T>>;
   static constexpr bool unit = std::is_same_v<ColumnStep, UnitStep<T>>;
-  static constexpr bool straight = unit;
+  static constexpr bool straight = true;
   static constexpr int chunk = chunkElements<Element>;
   static constexpr auto elementBytes = static_cast<int64_t>(sizeof(Element));
-  ObjectAddresses<Element, Byte<T>> objects;
+  std::conditional_t<OwnAddresses, Addresses, const Addresses&> objects;
   int64_t rowStep;
   ColumnStep columnStep;
 
   // Whether rows of this width follow each other without gaps, and so are one
   // run.
   ZELM_INLINE bool gapless(int width) const { return unit && rowStep == width * elementBytes; }
+
+  // Element (i, j) of the object in lane w.
+  ZELM_INLINE Byte<T>* address(int64_t i, int64_t j, int w) const {
+    return objects.of[w] + i * rowStep + j * columnStep;
+  }
+
+  // With any steps: whether the elements of a row, or those of a column, are neighbours after all; and the same objects
+  // as rows of these, the columns' with the axes exchanged.
+  ZELM_INLINE bool unitRows() const { return columnStep == elementBytes; }
+  ZELM_INLINE bool unitColumns() const { return rowStep == elementBytes; }
+  using Rows = StridedBlock<T, UnitStep<T>, false>;
+  ZELM_INLINE Rows byRows() const { return {objects, rowStep, {}}; }
+  ZELM_INLINE Rows byColumns() const { return {objects, columnStep, {}}; }
 
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     const int64_t offset = i * rowStep + j * columnStep;
@@ -141,16 +156,22 @@ private:
   }
 };
 
+// The length of the rows as stored, in the pointer layout: known to the compiler or not.
+template <class N> using RowLength = std::conditional_t<isFixed<N>, N, int64_t>;
+
 // Pointer layout, any stride0.
-template <class T> struct PositionBlock {
+template <class T, class Length> struct PositionBlock {
   using Element = std::remove_const_t<T>;
   T* const* list;
-  int64_t rowLength;
+  Length rowLength;
   int64_t offset[laneCount<Element>];
 
   static constexpr bool unit = false;
   static constexpr bool straight = false;
   static constexpr bool gapless(int) { return false; }
+  ZELM_INLINE Byte<T>* address(int64_t i, int64_t j, int w) const {
+    return reinterpret_cast<Byte<T>*>(list[i * rowLength + j]) + offset[w];
+  }
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
       auto* const position = reinterpret_cast<const char*>(list[i * rowLength + j + e]);
@@ -167,15 +188,18 @@ template <class T> struct PositionBlock {
 
 // Pointer layout where stride0 is the element size: at each position the
 // objects are neighbours.
-template <class T> struct NeighbourBlock {
+template <class T, class Length> struct NeighbourBlock {
   using Element = std::remove_const_t<T>;
   T* const* list;
-  int64_t rowLength;
+  Length rowLength;
   int64_t offset;
 
   static constexpr bool unit = false;
   static constexpr bool straight = true;
   static constexpr bool gapless(int) { return false; }
+  ZELM_INLINE Byte<T>* address(int64_t i, int64_t j, int w) const {
+    return reinterpret_cast<Byte<T>*>(list[i * rowLength + j]) + offset + w * static_cast<int>(sizeof(T));
+  }
   template <class N> ZELM_INLINE void load(int i, int j, N n, Lanes<Element>* lanes) const {
     ascending(Fixed<0>{}, n, [&](auto e) ZELM_BODY {
       lanes[e] = loadLanes<Element>(reinterpret_cast<const char*>(list[i * rowLength + j + e]) + offset);
@@ -209,34 +233,35 @@ template <class T> constexpr bool isPointerLayout<MatricesP<T>> = true;
 template <class T> constexpr bool isPointerLayout<VectorP<T>> = true;
 template <class T> constexpr bool isPointerLayout<VectorsP<T>> = true;
 
-template <class T, class RowStep, class Step>
-ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedMatrixView<T, RowStep, Step>& view, int64_t) {
+template <class T, class RowStep, class Step, class N>
+ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedMatrixView<T, RowStep, Step>& view, N) {
   return {{}, view.rowStep, view.columnStep};
 }
-template <class T, class Step>
-ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedVectorView<T, Step>& view, int64_t) {
+template <class T, class Step, class N>
+ZELM_INLINE StridedBlock<T, Step> blockOf(const StridedVectorView<T, Step>& view, N) {
   return {{}, 0, view.step};
 }
-template <class T> ZELM_INLINE PositionBlock<T> blockOf(const PointerMatrixView<T>& view, int64_t rowLength) {
+template <class T, class N>
+ZELM_INLINE PositionBlock<T, RowLength<N>> blockOf(const PointerMatrixView<T>& view, N rowLength) {
   return {view.list, rowLength, {}};
 }
-template <class T> ZELM_INLINE PositionBlock<T> blockOf(const PointerVectorView<T>& view, int64_t) {
-  return {view.list, 0, {}};
+template <class T, class N>
+ZELM_INLINE PositionBlock<T, RowLength<N>> blockOf(const PointerVectorView<T>& view, N rowLength) {
+  return {view.list, rowLength, {}};
 }
 
 // The kind of block that its neighbours make, in the pointer layout.
 struct NoNeighbours {};
-template <class View> NoNeighbours neighboursOf(const View&);
-template <class T> NeighbourBlock<T> neighboursOf(const PointerMatrixView<T>&);
-template <class T> NeighbourBlock<T> neighboursOf(const PointerVectorView<T>&);
+template <class T, class Step> NoNeighbours neighboursOf(const StridedBlock<T, Step>&);
+template <class T, class Length> NeighbourBlock<T, Length> neighboursOf(const PositionBlock<T, Length>&);
 
 // One operand's blocks, one after the other in the same place: only the
 // addresses change. (Blocks that were made anew would be copied, in pieces of
 // another size than they were written.)
-template <class Operand, class View> class BlocksOf {
+template <class Operand, class N, class View> class BlocksOf {
 public:
   // view(k) is object k.
-  ZELM_INLINE BlocksOf(const Operand& operand, int64_t rowLength, const View& view)
+  ZELM_INLINE BlocksOf(const Operand& operand, N rowLength, const View& view)
       : operand_(operand), view_(view), block_(blockOf(view(0), rowLength)) {}
 
   template <class B> ZELM_INLINE const auto& at(const B& block) {
@@ -269,16 +294,16 @@ private:
 
   const Operand& operand_;
   View view_;
-  decltype(blockOf(std::declval<View>()(0), 0)) block_;
-  decltype(neighboursOf(std::declval<View>()(0))) neighbours_{};
+  decltype(blockOf(std::declval<View>()(0), std::declval<N>())) block_;
+  decltype(neighboursOf(std::declval<decltype(block_)>())) neighbours_{};
 };
 
 // A matrix operand; rowLength is the width of its rows as stored.
-template <class Operand> ZELM_INLINE auto matrixBlocks(const Operand& x, int64_t rowLength) {
+template <class Operand, class N> ZELM_INLINE auto matrixBlocks(const Operand& x, N rowLength) {
   return BlocksOf(x, rowLength, [&x, rowLength](int64_t k) ZELM_BODY { return x.object(k, rowLength); });
 }
 template <class Operand> ZELM_INLINE auto vectorBlocks(const Operand& x) {
-  return BlocksOf(x, 0, [&x](int64_t k) ZELM_BODY { return x.object(k); });
+  return BlocksOf(x, Fixed<0>{}, [&x](int64_t k) ZELM_BODY { return x.object(k); });
 }
 
 // The single vector of a batch: the same in every lane.
@@ -351,7 +376,7 @@ template <int N, class Operand> ZELM_INLINE auto wholeBlocks(const Operand& x) {
     };
   } else {
     return [&x, first](int64_t k) ZELM_BODY {
-      auto block = blockOf(first, 0);
+      auto block = blockOf(first, Fixed<0>{});
       ascending(Fixed<0>{}, Fixed<laneCount<T>>{},
                 [&](auto w) ZELM_BODY { block.objects.of[w] = x.object(k + w).address(0); });
       return block;
@@ -376,18 +401,156 @@ template <class Operand> ZELM_INLINE bool areNeighbours(const Operand& x) {
     return false;
 }
 
-// A dense matrix of each object, row after row in lanes.
+// A dense matrix of each object, row after row in lanes. Where the steps are known at run time only, columns whose
+// elements are neighbours are loaded and stored as rows are; that they are columns is a matter of an index.
+template <class> constexpr bool hasAnySteps = false;
+template <class T> constexpr bool hasAnySteps<StridedBlock<T, AnyStep>> = true;
+
+// Columns of unknown length go in pieces, of which the last overlaps its neighbour: body(from, n) for the elements from
+// `first` on.
+constexpr int pieceElements = 8;
+template <class N> constexpr int pieceRoom = pieceElements;
+template <int N> constexpr int pieceRoom<Fixed<N>> = N;
+template <class Body> ZELM_INLINE void forPieces(int first, int end, const Body& body) {
+  const int n = smaller(pieceElements, end - first);
+  for (int i = first; i < end; i += pieceElements)
+    body(smaller(i, end - n), n);
+}
+
+template <class Columns, class L, class Width, class Height>
+ZELM_INLINE void loadColumns(const Columns& columns, L* lanes, Width width, Height height);
+template <class Columns, class L, class Width, class Height>
+ZELM_INLINE void storeColumns(const Columns& columns, const L* lanes, Width width, Height height);
+
 template <class Objects, class L, class Width, class Height>
 ZELM_INLINE void loadElements(const Objects& objects, L* lanes, Width width, Height height) {
-  if (objects.gapless(width))
-    return objects.load(0, 0, product(width, height), lanes);
-  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.load(i, 0, width, lanes + i * width); });
+  if (objects.gapless(width)) {
+    objects.load(0, 0, product(width, height), lanes);
+  } else {
+    if constexpr (hasAnySteps<Objects>)
+      if (objects.unitColumns())
+        return loadColumns(objects.byColumns(), lanes, width, height);
+    ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.load(i, 0, width, lanes + i * width); });
+  }
 }
 template <class Objects, class L, class Width, class Height>
 ZELM_INLINE void storeElements(const Objects& objects, const L* lanes, Width width, Height height) {
-  if (objects.gapless(width))
-    return objects.store(0, 0, product(width, height), lanes);
-  ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.store(i, 0, width, lanes + i * width); });
+  if (objects.gapless(width)) {
+    objects.store(0, 0, product(width, height), lanes);
+  } else {
+    if constexpr (hasAnySteps<Objects>)
+      if (objects.unitColumns())
+        return storeColumns(objects.byColumns(), lanes, width, height);
+    ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY { objects.store(i, 0, width, lanes + i * width); });
+  }
+}
+
+template <class Columns, class L, class Width, class Height>
+ZELM_INLINE void loadColumns(const Columns& columns, L* lanes, Width width, Height height) {
+  if constexpr (isFixed<Width> && isFixed<Height>) {
+    L exchanged[width * height];
+    loadElements(columns, exchanged, height, width);
+    ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY {
+      ascending(Fixed<0>{}, width, [&](auto j) ZELM_BODY { lanes[i * width + j] = exchanged[j * height + i]; });
+    });
+  } else {
+    for (int j = 0; j < width; ++j)
+      forPieces(0, height, [&](int from, int n) ZELM_BODY {
+        L piece[pieceElements];
+        columns.load(j, from, n, piece);
+        for (int i = 0; i < n; ++i)
+          lanes[(from + i) * width + j] = piece[i];
+      });
+  }
+}
+template <class Columns, class L, class Width, class Height>
+ZELM_INLINE void storeColumns(const Columns& columns, const L* lanes, Width width, Height height) {
+  if constexpr (isFixed<Width> && isFixed<Height>) {
+    L exchanged[width * height];
+    ascending(Fixed<0>{}, height, [&](auto i) ZELM_BODY {
+      ascending(Fixed<0>{}, width, [&](auto j) ZELM_BODY { exchanged[j * height + i] = lanes[i * width + j]; });
+    });
+    storeElements(columns, exchanged, height, width);
+  } else {
+    for (int j = 0; j < width; ++j)
+      forPieces(0, height, [&](int from, int n) ZELM_BODY {
+        L piece[pieceElements];
+        for (int i = 0; i < n; ++i)
+          piece[i] = lanes[(from + i) * width + j];
+        columns.store(j, from, n, piece);
+      });
+  }
+}
+
+// A column of each object.
+template <class Objects, class L, class N> ZELM_INLINE void loadColumn(const Objects& objects, int j, L* lanes, N n) {
+  if constexpr (hasAnySteps<Objects>)
+    if (objects.unitColumns())
+      return objects.byColumns().load(j, 0, n, lanes);
+  ascending(Fixed<0>{}, n, [&](auto i) ZELM_BODY { objects.load(i, j, Fixed<1>{}, lanes + i); });
+}
+template <class Objects, class L, class N>
+ZELM_INLINE void storeColumn(const Objects& objects, int j, const L* lanes, N n) {
+  if constexpr (hasAnySteps<Objects>)
+    if (objects.unitColumns())
+      return objects.byColumns().store(j, 0, n, lanes);
+  ascending(Fixed<0>{}, n, [&](auto i) ZELM_BODY { objects.store(i, j, Fixed<1>{}, lanes + i); });
+}
+
+// A vector of each object.
+template <class Objects, class L, class N> ZELM_INLINE void loadVector(const Objects& objects, L* lanes, N n) {
+  if constexpr (hasAnySteps<Objects>)
+    if (objects.unitRows())
+      return objects.byRows().load(0, 0, n, lanes);
+  objects.load(0, 0, n, lanes);
+}
+template <class Objects, class L, class N> ZELM_INLINE void storeVector(const Objects& objects, const L* lanes, N n) {
+  if constexpr (hasAnySteps<Objects>)
+    if (objects.unitRows())
+      return objects.byRows().store(0, 0, n, lanes);
+  objects.store(0, 0, n, lanes);
+}
+
+// The lower triangle of a square matrix of each object, row after row: row i begins at element i * (i + 1) / 2. What
+// lies above the diagonal is neither read nor written.
+constexpr int triangleElements(int n) {
+  return n * (n + 1) / 2;
+}
+
+// body(j, from, n) for the columns from the diagonal down, whole or in pieces.
+template <class Side, class Body> ZELM_INLINE void forTriangleColumns(Side side, const Body& body) {
+  ascending(Fixed<0>{}, side, [&](auto j) ZELM_BODY {
+    if constexpr (isFixed<Side>)
+      body(j, j, Fixed<side - j>{});
+    else
+      forPieces(j, side, [&](int from, int n) ZELM_BODY { body(j, from, n); });
+  });
+}
+template <class Objects, class L, class Side>
+ZELM_INLINE void loadTriangle(const Objects& objects, L* lanes, Side side) {
+  if constexpr (hasAnySteps<Objects>)
+    if (objects.unitColumns()) {
+      const auto columns = objects.byColumns();
+      return forTriangleColumns(side, [&](auto j, auto from, auto n) ZELM_BODY {
+        L piece[pieceRoom<decltype(n)>];
+        columns.load(j, from, n, piece);
+        ascending(Fixed<0>{}, n, [&](auto i) ZELM_BODY { lanes[triangleElements(from + i) + j] = piece[i]; });
+      });
+    }
+  ascending(Fixed<0>{}, side, [&](auto i) ZELM_BODY { objects.load(i, 0, next(i), lanes + triangleElements(i)); });
+}
+template <class Objects, class L, class Side>
+ZELM_INLINE void storeTriangle(const Objects& objects, const L* lanes, Side side) {
+  if constexpr (hasAnySteps<Objects>)
+    if (objects.unitColumns()) {
+      const auto columns = objects.byColumns();
+      return forTriangleColumns(side, [&](auto j, auto from, auto n) ZELM_BODY {
+        L piece[pieceRoom<decltype(n)>];
+        ascending(Fixed<0>{}, n, [&](auto i) ZELM_BODY { piece[i] = lanes[triangleElements(from + i) + j]; });
+        columns.store(j, from, n, piece);
+      });
+    }
+  ascending(Fixed<0>{}, side, [&](auto i) ZELM_BODY { objects.store(i, 0, next(i), lanes + triangleElements(i)); });
 }
 
 template <class Operand> ZELM_INLINE bool areNeighboursOrSame(const Operand& x) {

@@ -54,16 +54,9 @@ struct AboveEpsilonFrom6On {
 
 // The lower triangle, row after row.
 template <class L> struct Triangle {
-  L* element;
-  static constexpr int rowStart(int i) { return i * (i + 1) / 2; }
-  ZELM_INLINE L load(int i, int j) const { return element[rowStart(i) + j]; }
-  ZELM_INLINE void store(int i, int j, L value) const { element[rowStart(i) + j] = value; }
-};
-
-template <class L> struct Sequence {
-  L* element;
-  ZELM_INLINE L load(int i) const { return element[i]; }
-  ZELM_INLINE void store(int i, L value) const { element[i] = value; }
+  Column<L> elements;
+  ZELM_INLINE L load(int i, int j) const { return elements.load(triangleElements(i) + j); }
+  ZELM_INLINE void store(int i, int j, const L& value) const { elements.store(triangleElements(i) + j, value); }
 };
 
 // Row after row; false at the first pivot that the limit is greater than or equal to in any lane. A NaN passes.
@@ -104,13 +97,11 @@ ZELM_INLINE void choleskySolve(const Factor& factor, const Right& right, const R
 
 using StraightSides = Sizes<3, 4, 5, 6>;
 
-template <int N> constexpr int triangleElements = N*(N + 1) / 2;
-
 template <int N, class Pivots, class Source, class Result>
 ZELM_INLINE ZelStatus choleskyFactorFixed(Pivots, const Source& src, const Result& dst) {
   using T = typename Result::Element;
-  T element[triangleElements<N>];
-  const Triangle<T> triangle{element};
+  T element[triangleElements(N)];
+  const Triangle<T> triangle{{element}};
   ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
     ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY { triangle.store(i, j, src.load(i, j)); });
   });
@@ -146,80 +137,97 @@ ZELM_INLINE ZelStatus choleskyFactors(const Source& src, const Result& dst, int3
       [&]() ZELM_BODY { return choleskyFactorGeneral(Pivots{}, source, result, side); });
 }
 
+// Matrices without straight-line code go in lanes, through memory, up to this side.
+constexpr int choleskyLaneSide = 16;
+template <class Side> constexpr int choleskyRoom = choleskyLaneSide;
+template <int N> constexpr int choleskyRoom<Fixed<N>> = N;
+
+// body(side), known to the compiler if it is 2.
+template <class Body> ZELM_INLINE ZelStatus forLaneSide(int32_t side, const Body& body) {
+  return side == 2 ? body(Fixed<2>{}) : body(static_cast<int>(side));
+}
+
 // A block of two vectors full; nothing is stored unless every lane has all its pivots.
-template <int N, class Source, class Result>
+template <class Source, class Result, class Side>
 ZELM_NOINLINE bool choleskyFactorBlock(const Source& srcLow, const Source& srcHigh, const Result& dstLow,
-                                       const Result& dstHigh, typename Result::Element limit) {
+                                       const Result& dstHigh, Side side, typename Result::Element limit) {
   using V = Lanes<typename Result::Element>;
   using L = Pair<V>;
-  L element[triangleElements<N>];
-  const Triangle<L> triangle{element};
-  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
-    V low[N];
-    V high[N];
-    srcLow.load(i, 0, next(i), low);
-    srcHigh.load(i, 0, next(i), high);
-    ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY { triangle.store(i, j, L{low[j], high[j]}); });
-  });
-  if (!choleskyFactor<L, WidenedRoot>(triangle, triangle, Fixed<N>{}, limit))
+  V low[triangleElements(choleskyRoom<Side>)];
+  V high[triangleElements(choleskyRoom<Side>)];
+  loadTriangle(srcLow, low, side);
+  loadTriangle(srcHigh, high, side);
+  const Triangle<L> triangle{{low, high}};
+  if (!choleskyFactor<L, WidenedRoot>(triangle, triangle, side, limit))
     return false;
-  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
-    V low[N];
-    V high[N];
-    ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY {
-      low[j] = triangle.load(i, j).low;
-      high[j] = triangle.load(i, j).high;
-    });
-    dstLow.store(i, 0, next(i), low);
-    dstHigh.store(i, 0, next(i), high);
-  });
+  storeTriangle(dstLow, low, side);
+  storeTriangle(dstHigh, high, side);
   return true;
 }
 
-// Batches. general(k) is object k of a side without straight-line code.
+// single(k) is object k where a block is not done as a whole.
+template <class Pivots, class Source, class Result, class Side, class Single>
+ZELM_INLINE ZelStatus choleskyFactorBlocks(Pivots, const Source& src, const Result& dst, Side side, int32_t count,
+                                           const Single& single) {
+  using T = typename Result::Element;
+  constexpr int W = laneCount<T>;
+  auto sourcesLow = matrixBlocks(src, side);
+  auto sourcesHigh = matrixBlocks(src, side);
+  auto resultsLow = matrixBlocks(dst, side);
+  auto resultsHigh = matrixBlocks(dst, side);
+  return forBlocks<2 * W, isPointerLayout<Source>>(
+      count, areNeighbours(src) && areNeighbours(dst),
+      [&](auto block) ZELM_BODY {
+        const auto low = block.template low<W>();
+        const auto high = block.template high<W>();
+        return choleskyFactorBlock(sourcesLow.at(low), sourcesHigh.at(high), resultsLow.at(low), resultsHigh.at(high),
+                                   side, static_cast<T>(Pivots::limit(side)));
+      },
+      single);
+}
+
+// Batches. general(side) does all objects of a side without straight-line code.
 template <class Pivots, class Source, class Result, class General>
 ZELM_INLINE ZelStatus choleskyFactorBatch(Pivots pivots, const Source& src, const Result& dst, int32_t side,
                                           int32_t count, const General& general) {
-  using T = typename Result::Element;
   return forSize(
       StraightSides{}, side,
-      [&](auto fixed) ZELM_BODY {
-        constexpr int N = decltype(fixed)::value;
-        auto sourcesLow = matrixBlocks(src, N);
-        auto sourcesHigh = matrixBlocks(src, N);
-        auto resultsLow = matrixBlocks(dst, N);
-        auto resultsHigh = matrixBlocks(dst, N);
-        return forBlocks<2 * laneCount<T>, isPointerLayout<Source>>(
-            count, areNeighbours(src) && areNeighbours(dst),
-            [&](auto block) ZELM_BODY {
-              constexpr int W = laneCount<T>;
-              const auto low = block.template low<W>();
-              const auto high = block.template high<W>();
-              return choleskyFactorBlock<N>(sourcesLow.at(low), sourcesHigh.at(high), resultsLow.at(low),
-                                            resultsHigh.at(high), static_cast<T>(Pivots::limit(N)));
-            },
-            [&](int64_t k) ZELM_BODY { return choleskyFactorFixed<N>(pivots, src.object(k, N), dst.object(k, N)); });
+      [&](auto n) ZELM_BODY {
+        return choleskyFactorBlocks(pivots, src, dst, n, count, [&](int64_t k) ZELM_BODY {
+          return choleskyFactorFixed<n>(pivots, src.object(k, n), dst.object(k, n));
+        });
       },
-      [&]() ZELM_BODY {
-        for (int64_t k = 0; k < count; ++k)
-          if (const ZelStatus status = general(k); status != zelStatusOk)
-            return status;
-        return ZelStatus{zelStatusOk};
-      });
+      general);
+}
+
+// Objects first, first + 1, ... of a batch up to the first failure.
+template <class Single> ZELM_INLINE ZelStatus oneByOne(int32_t count, const Single& single) {
+  for (int64_t k = 0; k < count; ++k)
+    if (const ZelStatus status = single(k); status != zelStatusOk)
+      return status;
+  return zelStatusOk;
 }
 
 template <class Pivots, class Source, class Result>
 ZELM_INLINE ZelStatus choleskyFactors(const Source& src, const Result& dst, int32_t side, int32_t count) {
-  return choleskyFactorBatch(Pivots{}, src, dst, side, count, [&](int64_t k) ZELM_BODY {
+  static_assert(std::is_same_v<typename Pivots::GeneralRoot, WidenedRoot>, "the root of the blocks");
+  const auto single = [&](int64_t k) ZELM_NOINLINE {
     return choleskyFactorGeneral(Pivots{}, src.object(k, side), dst.object(k, side), side);
+  };
+  return choleskyFactorBatch(Pivots{}, src, dst, side, count, [&]() ZELM_BODY {
+    if (side > choleskyLaneSide)
+      return oneByOne(count, single);
+    return forLaneSide(side,
+                       [&](auto n) ZELM_BODY { return choleskyFactorBlocks(Pivots{}, src, dst, n, count, single); });
   });
 }
 
 // Pointer layout: the other sides go to the kernel of the single object, which Single names.
 template <class Single, class Source, class Result>
 ZELM_INLINE ZelStatus choleskyFactorsBySingle(const Source& src, const Result& dst, Size side, int32_t count) {
-  return choleskyFactorBatch(typename Single::Pivots{}, src, dst, side, count,
-                             [&](int64_t k) ZELM_BODY { return Single::kernel(src.single(k), dst.single(k), side); });
+  return choleskyFactorBatch(typename Single::Pivots{}, src, dst, side, count, [&]() ZELM_BODY {
+    return oneByOne(count, [&](int64_t k) ZELM_BODY { return Single::kernel(src.single(k), dst.single(k), side); });
+  });
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -229,7 +237,7 @@ template <int N, class Factor, class Right, class Result>
 ZELM_INLINE void choleskySolveFixed(const Factor& factor, const Right& right, const Result& dst) {
   using T = typename Result::Element;
   T element[N];
-  const Sequence<T> x{element};
+  const Column<T> x{element};
   choleskySolve<T>(factor, right, x, Fixed<N>{});
   ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { dst.store(i, x.load(i)); });
 }
@@ -253,29 +261,62 @@ ZELM_INLINE ZelStatus choleskySolutions(const Factor& src1, const Right& src2, c
       });
 }
 
-template <int N, class L, class Right, class Result>
-ZELM_INLINE void choleskySolveLanes(const L* factor, const Right& right, const Result& dst) {
-  L element[N];
-  const Sequence<L> x{element};
-  right.load(0, 0, Fixed<N>{}, element);
-  choleskySolve<L>(Triangle<const L>{factor}, x, x, Fixed<N>{});
-  dst.store(0, 0, Fixed<N>{}, element);
+template <class L, class Right, class Result, class Side>
+ZELM_INLINE void choleskySolveLanes(L* factor, const Right& right, const Result& dst, Side side) {
+  L element[choleskyRoom<Side>];
+  const Column<L> x{element};
+  loadVector(right, element, side);
+  choleskySolve<L>(Triangle<L>{{factor}}, x, x, side);
+  storeVector(dst, element, side);
 }
 
 // A factor for each lane.
-template <int N, class Factor, class Right, class Result>
-ZELM_NOINLINE void choleskySolveBlock(const Factor& factor, const Right& right, const Result& dst) {
-  using L = Lanes<typename Result::Element>;
-  L element[triangleElements<N>];
-  ascending(Fixed<0>{}, Fixed<N>{},
-            [&](auto i) ZELM_BODY { factor.load(i, 0, next(i), element + Triangle<L>::rowStart(i)); });
-  choleskySolveLanes<N>(element, right, dst);
+template <class Factor, class Right, class Result, class Side>
+ZELM_NOINLINE void choleskySolveEach(const Factor& factor, const Right& right, const Result& dst, Side side) {
+  Lanes<typename Result::Element> element[triangleElements(choleskyRoom<Side>)];
+  loadTriangle(factor, element, side);
+  choleskySolveLanes(element, right, dst, side);
 }
 
 // One factor for all lanes.
-template <int N, class L, class Right, class Result>
-ZELM_NOINLINE void choleskySolveBlock(const L* factor, const Right& right, const Result& dst) {
-  choleskySolveLanes<N>(factor, right, dst);
+template <class L, class Right, class Result, class Side>
+ZELM_NOINLINE void choleskySolveOne(L* factor, const Right& right, const Result& dst, Side side) {
+  choleskySolveLanes(factor, right, dst, side);
+}
+
+// single(k) is the lone object k.
+template <class Factor, class Right, class Result, class Side, class Single>
+ZELM_INLINE ZelStatus choleskySolveBlocks(const Factor& src1, const Right& src2, const Result& dst, Side side,
+                                          int32_t count, const Single& single) {
+  using T = typename Result::Element;
+  bool neighbours = areNeighbours(src2) && areNeighbours(dst);
+  auto rights = vectorBlocks(src2);
+  auto results = vectorBlocks(dst);
+  if constexpr (Factor::isArray) {
+    neighbours = neighbours && areNeighbours(src1);
+    auto factors = matrixBlocks(src1, side);
+    return forBlocks<laneCount<T>, isPointerLayout<Result>>(
+        count, neighbours,
+        [&](auto block) ZELM_BODY {
+          choleskySolveEach(factors.at(block), rights.at(block), results.at(block), side);
+          return true;
+        },
+        single);
+  } else {
+    Lanes<T> factor[triangleElements(choleskyRoom<Side>)];
+    const auto view = src1.object(0, side);
+    ascending(Fixed<0>{}, side, [&](auto i) ZELM_BODY {
+      ascending(Fixed<0>{}, next(i),
+                [&](auto j) ZELM_BODY { factor[triangleElements(i) + j] = splat<Lanes<T>>(view.load(i, j)); });
+    });
+    return forBlocks<laneCount<T>, isPointerLayout<Result>>(
+        count, neighbours,
+        [&](auto block) ZELM_BODY {
+          choleskySolveOne(factor, rights.at(block), results.at(block), side);
+          return true;
+        },
+        single);
+  }
 }
 
 // Batches.
@@ -285,45 +326,21 @@ ZELM_INLINE ZelStatus choleskySolutions(const Factor& src1, const Right& src2, c
   using T = typename Result::Element;
   return forSize(
       StraightSides{}, side,
-      [&](auto fixed) ZELM_BODY {
-        constexpr int N = decltype(fixed)::value;
-        bool neighbours = areNeighbours(src2) && areNeighbours(dst);
-        auto rights = vectorBlocks(src2);
-        auto results = vectorBlocks(dst);
-        const auto single = [&](int64_t k) ZELM_BODY {
-          choleskySolveFixed<N>(src1.object(k, N), src2.object(k), dst.object(k));
-          return zelStatusOk;
-        };
-        if constexpr (Factor::isArray) {
-          neighbours = neighbours && areNeighbours(src1);
-          auto factors = matrixBlocks(src1, N);
-          return forBlocks<laneCount<T>, isPointerLayout<Result>>(
-              count, neighbours,
-              [&](auto block) ZELM_BODY {
-                choleskySolveBlock<N>(factors.at(block), rights.at(block), results.at(block));
-                return true;
-              },
-              single);
-        } else {
-          Lanes<T> factor[triangleElements<N>];
-          ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
-            ascending(Fixed<0>{}, next(i), [&](auto j) ZELM_BODY {
-              factor[Triangle<T>::rowStart(i) + j] = splat<Lanes<T>>(src1.object(0, N).load(i, j));
-            });
-          });
-          return forBlocks<laneCount<T>, isPointerLayout<Result>>(
-              count, neighbours,
-              [&](auto block) ZELM_BODY {
-                choleskySolveBlock<N>(static_cast<const Lanes<T>*>(factor), rights.at(block), results.at(block));
-                return true;
-              },
-              single);
-        }
+      [&](auto n) ZELM_BODY {
+        return choleskySolveBlocks(src1, src2, dst, n, count, [&](int64_t k) ZELM_BODY {
+          choleskySolveFixed<n>(src1.object(k, n), src2.object(k), dst.object(k));
+          return ZelStatus{zelStatusOk};
+        });
       },
       [&]() ZELM_BODY {
-        for (int64_t k = 0; k < count; ++k)
+        const auto single = [&](int64_t k) ZELM_NOINLINE {
           choleskySolve<T>(src1.object(k, side), src2.object(k), dst.object(k), static_cast<int>(side));
-        return zelStatusOk;
+          return ZelStatus{zelStatusOk};
+        };
+        if (side > choleskyLaneSide)
+          return oneByOne(count, single);
+        return forLaneSide(side,
+                           [&](auto n) ZELM_BODY { return choleskySolveBlocks(src1, src2, dst, n, count, single); });
       });
 }
 

@@ -42,7 +42,7 @@ template <int N, class View> ZELM_NOINLINE auto determinantOfOne(const View& x) 
 
 template <int N, class Objects> ZELM_INLINE auto expandedDeterminants(const Objects& x) {
   using L = Lanes<typename Objects::Element>;
-  if (x.gapless(N)) {
+  const auto ofElements = [&]() ZELM_BODY {
     L element[N * N];
     loadElements(x, element, Fixed<N>{}, Fixed<N>{});
     return expandedDeterminant<N, L>([&](auto i) ZELM_BODY {
@@ -50,12 +50,18 @@ template <int N, class Objects> ZELM_INLINE auto expandedDeterminants(const Obje
       ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY { row.of[j] = element[i * N + j]; });
       return row;
     });
+  };
+  if constexpr (hasAnySteps<Objects>) {
+    return ofElements();
+  } else {
+    if (x.gapless(N))
+      return ofElements();
+    return expandedDeterminant<N, L>([&](auto i) ZELM_BODY {
+      MatrixRow<L, N> row;
+      x.load(i, 0, Fixed<N>{}, row.of);
+      return row;
+    });
   }
-  return expandedDeterminant<N, L>([&](auto i) ZELM_BODY {
-    MatrixRow<L, N> row;
-    x.load(i, 0, Fixed<N>{}, row.of);
-    return row;
-  });
 }
 
 // From side 5 on a call of its own.
@@ -108,6 +114,25 @@ ZELM_INLINE T determinantInBuffer(Vanishing vanishing, const View& x, T* buffer,
   return eliminatedDeterminant(vanishing, buffer, side);
 }
 
+// The same of matrices of two by two side by side: as in an array, a pivot below the limit leaves the sign of a zero.
+template <class Objects> ZELM_NOINLINE auto eliminatedPairs(const Objects& x) {
+  using T = typename Objects::Element;
+  using L = Lanes<T>;
+  L a[4];
+  loadElements(x, a, Fixed<2>{}, Fixed<2>{});
+  const auto limit = splat<L>(singularLimit<T>(2));
+  const auto exchanged = greater(magnitude(a[2]), magnitude(a[0]));
+  const L pivot = select<L>(exchanged, a[2], a[0]);
+  const L besidePivot = select<L>(exchanged, a[3], a[1]);
+  const L below = select<L>(exchanged, a[0], a[2]);
+  const L untouched = select<L>(exchanged, a[1], a[3]);
+  const auto vanishes = greater(limit, magnitude(pivot));
+  const L last = select<L>(vanishes, untouched, untouched - besidePivot * (below / pivot));
+  const L sign = select<L>(vanishes, L{}, select<L>(exchanged, splat<L>(-1), splat<L>(1)));
+  const L det = select<L>(vanishes, splat<L>(1), pivot);
+  return select<L>(greater(magnitude(last), limit), det * (last * sign), L{});
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Kernels
 
@@ -134,21 +159,32 @@ ZELM_INLINE ZelStatus determinants(const Source& src, Size side, const Buffer<T>
     storeResult(dst, k, det);
     return ZelStatus{zelStatusOk};
   };
+  const auto inBlocks = [&](auto n, const auto& ofBlock, const auto& single) ZELM_BODY {
+    auto sources = matrixBlocks(src, n);
+    return forBlocks<laneCount<T>, isPointerLayout<Source>>(
+        count, areNeighbours(src),
+        [&](auto block) ZELM_BODY {
+          storeValues(dst, block, ofBlock(sources.at(block)));
+          return true;
+        },
+        single);
+  };
   return forSize(
       ExpandedSides{}, side,
       [&](auto n) ZELM_BODY {
-        auto sources = matrixBlocks(src, n);
-        return forBlocks<laneCount<T>, isPointerLayout<Source>>(
-            count, areNeighbours(src),
-            [&](auto block) ZELM_BODY {
-              storeValues(dst, block, determinantsOfBlock<n>(sources.at(block)));
-              return true;
-            },
+        return inBlocks(
+            n, [&](const auto& x) ZELM_BODY { return determinantsOfBlock<n>(x); },
             [&](int64_t k) ZELM_BODY { return store(k, determinantOfOne<n>(src.object(k, n))); });
       },
       [&]() ZELM_BODY {
+        const auto single = [&](int64_t k) ZELM_NOINLINE {
+          return store(k, determinantInBuffer(Vanishing::SignOfZero, src.object(k, side), buffer.pointer, side));
+        };
+        if (side == 2)
+          return inBlocks(
+              Fixed<2>{}, [](const auto& x) ZELM_BODY { return eliminatedPairs(x); }, single);
         for (int32_t k = 0; k < count; ++k)
-          store(k, determinantInBuffer(Vanishing::SignOfZero, src.object(k, side), buffer.pointer, side));
+          single(k);
         return ZelStatus{zelStatusOk};
       });
 }

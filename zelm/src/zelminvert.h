@@ -368,8 +368,8 @@ ZELM_INLINE ZelStatus inverse(const Source& src, const Buffer<T>& buffer, const 
 template <class Method, int N, class Source, class Result, class Single>
 ZELM_INLINE ZelStatus inverseBlocks(const Source& src, const Result& dst, int32_t count, const Single& single) {
   using T = typename Result::Element;
-  auto sources = matrixBlocks(src, N);
-  auto results = matrixBlocks(dst, N);
+  auto sources = matrixBlocks(src, Fixed<N>{});
+  auto results = matrixBlocks(dst, Fixed<N>{});
   return forBlocks<laneCount<T>, isPointerLayout<Source>>(
       count, areNeighbours(src) && areNeighbours(dst),
       [&](auto block) ZELM_BODY { return invertBlock<Method, N>(sources.at(block), results.at(block)); }, single);

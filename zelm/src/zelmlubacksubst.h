@@ -31,6 +31,70 @@ inline void substituteLoop(const A& src1, const int32_t* p, const B& src2, const
   }
 }
 
+// The same on a block in lanes, whose rows are in order; x holds the right-hand sides, then the solutions.
+template <class L, class Side> ZELM_INLINE void substituteLanes(const L* f, L* x, Side side) {
+  ascending(Fixed<1>{}, side, [&](auto i) ZELM_BODY {
+    L sum{};
+    ascending(Fixed<0>{}, i, [&](auto j) ZELM_BODY { sum = sum + f[i * side + j] * x[j]; });
+    x[i] = x[i] - sum;
+  });
+  const auto last = previous(side);
+  x[last] = x[last] / f[last * side + last];
+  descending(Fixed<0>{}, last, [&](auto i) ZELM_BODY {
+    L sum{};
+    ascending(next(i), side, [&](auto j) ZELM_BODY { sum = sum + f[i * side + j] * x[j]; });
+    x[i] = (x[i] - sum) / f[i * side + i];
+  });
+}
+
+// A matrix for each right-hand side.
+template <class T, class A, class B, class D>
+ZELM_NOINLINE void substituteEach(const A& src1, const PlainAddresses<T, const int32_t>& index, const B& src2,
+                                  const D& dst, int side) {
+  Lanes<T> f[luLaneSide * luLaneSide];
+  Lanes<T> x[luLaneSide];
+  for (int i = 0; i < side; ++i) {
+    loadRowByIndex<T>(src1, index, i, side, f + i * side);
+    x[i] = loadByIndex<T>(src2, index, i);
+  }
+  substituteLanes(f, x, side);
+  storeVector(dst, x, side);
+}
+// Side 2: both rows are loaded where they are.
+template <class T, class A, class B, class D>
+ZELM_NOINLINE void substituteEach(const A& src1, const PlainAddresses<T, const int32_t>& index, const B& src2,
+                                  const D& dst, Fixed<2> side) {
+  using L = Lanes<T>;
+  using I = IntegerOf<L>;
+  L a[4];
+  L b[2];
+  L p[2];
+  loadElements(src1, a, side, side);
+  loadVector(src2, b, side);
+  loadEntryPairs<T>(index, p);
+  L f[4];
+  L x[2];
+  ascending(Fixed<0>{}, side, [&](auto i) ZELM_BODY {
+    const auto isLower = unequal(reinterpret_cast<I>(p[i]), I{});
+    f[2 * i] = select<L>(isLower, a[2], a[0]);
+    f[2 * i + 1] = select<L>(isLower, a[3], a[1]);
+    x[i] = select<L>(isLower, b[1], b[0]);
+  });
+  substituteLanes(f, x, side);
+  storeVector(dst, x, side);
+}
+
+// One matrix, whose rows are in f in order.
+template <class L, class B, class D, class Side>
+ZELM_NOINLINE void substituteOfOne(const L* f, const int32_t* p, const B& src2, const D& dst, Side side) {
+  L b[luLaneSide];
+  L x[luLaneSide]{};
+  loadVector(src2, b, side);
+  ascending(Fixed<0>{}, side, [&](auto i) ZELM_BODY { x[i] = b[p[i]]; });
+  substituteLanes(f, x, side);
+  storeVector(dst, x, side);
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Sides 3 to 6: the factors with their rows in order, in lanes of any type
 
@@ -113,32 +177,24 @@ template <int N, class B, class D>
 inline void substituteVectors(const LuFactors<typename D::Element, N>& f, const int32_t* p, const B& src2, const D& dst,
                               int32_t count) {
   using T = typename D::Element;
-  using View = decltype(dst.object(0));
-  constexpr int W = laneCount<T>;
-  if (count == 1) {
-    substituteOne<N, T>(f, p, src2.object(0), dst.object(0));
-    return;
-  }
   LuFactors<Lanes<T>, N> lanes;
-  spread(f, lanes);
-  Tile<Lanes<T>, 1, N> b;
-  if constexpr (View::unitRows) {
-    for (int64_t k = 0; k < count; k += W) {
-      loadRun<N, T>(vectorAddresses(src2, k, count), 0, b.element);
-      substituteBlock<N, T>(lanes, p, b);
-      storeRun<N, T>(vectorAddresses(dst, k, count), 0, b.element);
-    }
-  } else {
-    const auto from = vectorPositions<N>(src2);
-    const auto to = vectorPositions<N>(dst);
-    for (int64_t k = 0; k < count; k += W) {
-      const auto right = objectOffsets(src2, k, count);
-      const auto result = objectOffsets(dst, k, count);
-      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { b.element[i] = right.load(from.of[i]); });
-      substituteBlock<N, T>(lanes, p, b);
-      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { result.store(to.of[i], b.element[i]); });
-    }
-  }
+  if (count > 1)
+    spread(f, lanes);
+  auto rights = vectorBlocks(src2);
+  auto results = vectorBlocks(dst);
+  forBlocks<laneCount<T>, isPointerLayout<D>>(
+      count, areNeighbours(src2) && areNeighbours(dst),
+      [&](auto block) ZELM_BODY {
+        Tile<Lanes<T>, 1, N> b;
+        loadVector(rights.at(block), b.element, Fixed<N>{});
+        substituteBlock<N, T>(lanes, p, b);
+        storeVector(results.at(block), b.element, Fixed<N>{});
+        return true;
+      },
+      [&](int64_t k) ZELM_BODY {
+        substituteOne<N, T>(f, p, src2.object(k), dst.object(k));
+        return ZelStatus{zelStatusOk};
+      });
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -187,107 +243,122 @@ ZELM_INLINE void loadIndex(const PlainAddresses<T, const int32_t>& index, Intege
   }
 }
 
-template <int N, class T>
-ZELM_NOINLINE void substituteRows(const ObjectAddresses<T, const char>& src1, int64_t step,
-                                  const PlainAddresses<T, const int32_t>& index,
-                                  const ObjectAddresses<T, const char>& src2, const ObjectAddresses<T, char>& dst) {
-  constexpr auto E = static_cast<int64_t>(sizeof(T));
-  LuFactors<Lanes<T>, N> f;
-  Tile<Lanes<T>, 1, N> x;
-  ZELM_UNROLL
-  for (int i = 0; i < N; ++i) {
-    ObjectAddresses<T, const char> row;
-    ZELM_UNROLL
-    for (int w = 0; w < laneCount<T>; ++w)
-      row.of[w] = src1.of[w] + index.of[w][i] * step;
-    loadRun<N, T>(row, 0, &f.a(i, 0));
-    x(0, i) = gatherLanes<T>([&](int w) ZELM_BODY { return src2.of[w] + index.of[w][i] * E; });
-  }
-  takeReciprocals(f);
-  substitute(f, x);
-  storeRun<N, T>(dst, 0, x.element);
-}
-
-// False, and nothing stored, if an index has a row twice.
-template <int N, class T, class Objects, class Index>
-ZELM_NOINLINE bool substituteElements(const Positions<N * N>& src1Positions, const Objects& src1, const Index& index,
-                                      const Positions<N>& src2Positions, const Objects& src2,
-                                      const Positions<N>& dstPositions, const Objects& dst) {
+// False, and nothing stored, if an index has a row twice where rows are brought into order lane by lane.
+template <int N, class A, class Index, class B, class D>
+ZELM_NOINLINE bool substituteBlock(const A& src1, const Index& entries, const B& src2, const D& dst) {
+  using T = typename D::Element;
   using L = Lanes<T>;
+  // Rows are found by address. Elements one by one take less than exchanges of rows without blend instructions.
+  constexpr bool byIndex = A::unit || laneCount<T> == 2 || (!hasBlends && N > 4);
+  const PlainAddresses<T, const int32_t> index = entries;
   LuFactors<L, N> f;
   Tile<L, 1, N> x;
-  const PlainAddresses<T, const int32_t> places = index;
-  if constexpr (laneCount<T> == 2 || (!hasBlends && N > 4)) {
-    // Loads of single elements are less than exchanges of rows without blend instructions.
+  if constexpr (byIndex) {
     ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY {
-      const std::intptr_t* row[laneCount<T>];
-      ZELM_UNROLL
-      for (int w = 0; w < laneCount<T>; ++w)
-        row[w] = &src1Positions.of[places.of[w][i] * N];
-      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
-        f.a(i, j) = gatherLanes<T>([&](int w) ZELM_BODY { return src1.address(row[w][j], w); });
-      });
-      x(0, i) = gatherLanes<T>([&](int w) ZELM_BODY { return src2.address(src2Positions.of[places.of[w][i]], w); });
+      loadRowByIndex<T>(src1, index, i, Fixed<N>{}, &f.a(i, 0));
+      x(0, i) = loadByIndex<T>(src2, index, i);
     });
   } else {
     IntegerOf<L> p[N];
-    loadIndex<T>(places, p);
+    loadIndex<T>(index, p);
     const RowOrder<L, N> order(p);
     if (!order.isPermutation())
       return false;
     ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
       L column[N];
-      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { column[i] = src1.load(src1Positions.of[i * N + j]); });
+      loadColumn(src1, j, column, Fixed<N>{});
       order.put(column);
       ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { f.a(i, j) = column[i]; });
     });
-    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { x.element[i] = src2.load(src2Positions.of[i]); });
+    loadVector(src2, x.element, Fixed<N>{});
     order.put(x.element);
   }
   takeReciprocals(f);
   substitute(f, x);
-  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { dst.store(dstPositions.of[i], x.element[i]); });
+  storeVector(dst, x.element, Fixed<N>{});
   return true;
 }
 
 template <int N, class A, class B, class D>
-inline void substitutePairs(const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
-                            int32_t count) {
+inline ZelStatus substitutePairs(const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
+                                 int32_t count) {
   using T = typename D::Element;
-  constexpr int W = laneCount<T>;
-  const auto one = [&](int64_t k) {
-    const int32_t* p = index.pointer + k * N;
-    substituteOne<N, T>(readFactors<N, T>(src1.object(k, N), p), p, src2.object(k), dst.object(k));
-  };
-  // A lone last object goes by itself.
-  const int32_t end = count % W == 1 ? count - 1 : count;
-  if constexpr (decltype(dst.object(0))::unitRows) {
-    for (int64_t k = 0; k < end; k += W)
-      substituteRows<N, T>(matrixAddresses(src1, k, count), src1.stride1, plainAddresses<T>(index, k, count),
-                           vectorAddresses(src2, k, count), vectorAddresses(dst, k, count));
-  } else {
-    const auto matrix = matrixPositions<N>(src1);
-    const auto from = vectorPositions<N>(src2);
-    const auto to = vectorPositions<N>(dst);
-    bool neighbours = false;
-    if constexpr (isPointerLayout<D>)
-      neighbours = areNeighbours(src1) && areNeighbours(src2) && areNeighbours(dst);
-    const auto block = [&](int64_t k) {
-      if constexpr (isPointerLayout<D>)
-        if (neighbours && k + W <= count)
-          return substituteElements<N, T>(
-              matrix, NeighbourOffsets<T>{objectOffset(src1, k)}, PlainRun<N, T, const int32_t>{index.pointer + k * N},
-              from, NeighbourOffsets<T>{objectOffset(src2, k)}, to, NeighbourOffsets<T>{objectOffset(dst, k)});
-      return substituteElements<N, T>(matrix, objectOffsets(src1, k, count), plainAddresses<T>(index, k, count), from,
-                                      objectOffsets(src2, k, count), to, objectOffsets(dst, k, count));
-    };
-    for (int64_t k = 0; k < end; k += W)
-      if (!block(k))
-        for (int64_t m = k; m < end && m < k + W; ++m)
-          one(m);
-  }
-  if (end < count)
-    one(end);
+  auto factors = matrixBlocks(src1, Fixed<N>{});
+  auto rights = vectorBlocks(src2);
+  auto results = vectorBlocks(dst);
+  return forBlocks<laneCount<T>, isPointerLayout<D>>(
+      count, areNeighbours(src1) && areNeighbours(src2) && areNeighbours(dst),
+      [&](auto block) ZELM_BODY {
+        return substituteBlock<N>(factors.at(block), entriesOf<N, T>(index, block), rights.at(block),
+                                  results.at(block));
+      },
+      [&](int64_t k) ZELM_BODY {
+        const int32_t* p = index.pointer + k * N;
+        substituteOne<N, T>(readFactors<N, T>(src1.object(k, N), p), p, src2.object(k), dst.object(k));
+        return ZelStatus{zelStatusOk};
+      });
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Other sides, in lanes where a matrix is not too large for them
+
+// side() is known to the compiler if it is 2.
+template <class Body> ZELM_INLINE void forGeneralSide(int32_t side, const Body& body) {
+  if (side == 2)
+    body(Fixed<2>{});
+  else
+    body(static_cast<int>(side));
+}
+
+template <class A, class B, class D>
+ZELM_NOINLINE ZelStatus substituteGeneralVectors(const A& src1, const Plain<const int32_t>& index, const B& src2,
+                                                 const D& dst, int32_t side, int32_t count) {
+  using T = typename D::Element;
+  const auto matrix = src1.object(0, side);
+  const bool inLanes = side <= luLaneSide && count > 1;
+  Lanes<T> f[luLaneSide * luLaneSide];
+  for (int32_t i = 0; inLanes && i < side; ++i)
+    for (int32_t j = 0; j < side; ++j)
+      f[i * side + j] = splat<Lanes<T>>(matrix.load(index.pointer[i], j));
+  auto rights = vectorBlocks(src2);
+  auto results = vectorBlocks(dst);
+  return forBlocks<laneCount<T>, isPointerLayout<D>>(
+      count, areNeighbours(src2) && areNeighbours(dst),
+      [&](auto block) ZELM_BODY {
+        if (inLanes)
+          forGeneralSide(side, [&](auto n) ZELM_BODY {
+            substituteOfOne(f, index.pointer, rights.at(block), results.at(block), n);
+          });
+        return inLanes;
+      },
+      [&](int64_t k) ZELM_BODY {
+        substituteLoop(matrix, index.pointer, src2.object(k), dst.object(k), side);
+        return ZelStatus{zelStatusOk};
+      });
+}
+
+template <class A, class B, class D>
+ZELM_NOINLINE ZelStatus substituteGeneralPairs(const A& src1, const Plain<const int32_t>& index, const B& src2,
+                                               const D& dst, int32_t side, int32_t count) {
+  using T = typename D::Element;
+  const bool inLanes = side <= luLaneSide;
+  auto factors = matrixBlocks(src1, side);
+  auto rights = vectorBlocks(src2);
+  auto results = vectorBlocks(dst);
+  return forBlocks<laneCount<T>, isPointerLayout<D>>(
+      count, areNeighbours(src1) && areNeighbours(src2) && areNeighbours(dst),
+      [&](auto block) ZELM_BODY {
+        if (inLanes)
+          forGeneralSide(side, [&](auto n) ZELM_BODY {
+            substituteEach<T>(factors.at(block), plainAddresses<T>(index, block.first, block.last), rights.at(block),
+                              results.at(block), n);
+          });
+        return inLanes;
+      },
+      [&](int64_t k) ZELM_BODY {
+        substituteLoop(src1.object(k, side), index.single(k).pointer, src2.object(k), dst.object(k), side);
+        return ZelStatus{zelStatusOk};
+      });
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -327,11 +398,7 @@ inline ZelStatus solveVectors(const A& src1, const Plain<const int32_t>& index, 
         substituteVectors<side>(readFactors<side, T>(src1.object(0, side), p), p, src2, dst, count);
         return zelStatusOk;
       },
-      [&] {
-        for (int32_t k = 0; k < count; ++k)
-          substituteLoop(src1.object(0, widthHeight), index.pointer, src2.object(k), dst.object(k), widthHeight);
-        return zelStatusOk;
-      });
+      [&] { return substituteGeneralVectors(src1, index, src2, dst, widthHeight, count); });
 }
 
 // mava
@@ -339,17 +406,8 @@ template <class A, class B, class D>
 inline ZelStatus solveSystems(const A& src1, const Plain<const int32_t>& index, const B& src2, const D& dst,
                               int32_t widthHeight, int32_t count) {
   return forSize(
-      FixedSizes{}, widthHeight,
-      [&](auto side) {
-        substitutePairs<side>(src1, index, src2, dst, count);
-        return zelStatusOk;
-      },
-      [&] {
-        for (int32_t k = 0; k < count; ++k)
-          substituteLoop(src1.object(k, widthHeight), index.single(k).pointer, src2.object(k), dst.object(k),
-                         widthHeight);
-        return zelStatusOk;
-      });
+      FixedSizes{}, widthHeight, [&](auto side) { return substitutePairs<side>(src1, index, src2, dst, count); },
+      [&] { return substituteGeneralPairs(src1, index, src2, dst, widthHeight, count); });
 }
 
 } // namespace zelm

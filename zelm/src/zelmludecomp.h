@@ -7,16 +7,6 @@
 #include "zelmbatch.h"
 #include "zelmlusignature.h"
 
-// clang-format off
-// General loops, which the kernels call for sides other than 3 to 6.
-ZELM_DECLARE(ownzelmLUDecomp_m_32f_S_com,  LUDECOMP_M, S, UNIT, float);
-ZELM_DECLARE(ownzelmLUDecomp_m_64f_S_com,  LUDECOMP_M, S, UNIT, double);
-ZELM_DECLARE(ownzelmLUDecomp_m_32f_S2_com, LUDECOMP_M, S, ANY,  float);
-ZELM_DECLARE(ownzelmLUDecomp_m_64f_S2_com, LUDECOMP_M, S, ANY,  double);
-ZELM_DECLARE(ownzelmLUDecomp_m_32f_P_com,  LUDECOMP_M, P, ANY,  float);
-ZELM_DECLARE(ownzelmLUDecomp_m_64f_P_com,  LUDECOMP_M, P, ANY,  double);
-// clang-format on
-
 namespace zelm {
 
 // Sides 3 to 6: singular if the limit is greater than the magnitude.
@@ -27,10 +17,8 @@ template <class T> constexpr T loopLimit = static_cast<T>(sizeof(T) == 4 ? 0x1p-
 // ---------------------------------------------------------------------------------------------------------------------
 // General loop, one object, in dst
 
-template <class S, class D> inline ZelStatus decomposeLoop(const S& source, int32_t* p, const D& result, int32_t n) {
+template <class S, class D> ZELM_INLINE ZelStatus decomposeLoop(const S& src, int32_t* p, const D& dst, int32_t n) {
   using T = typename D::Element;
-  const auto src = source.object(0, n);
-  const auto dst = result.object(0, n);
   for (int32_t i = 0; i < n; ++i)
     for (int32_t j = 0; j < n; ++j)
       dst.store(i, j, src.load(i, j));
@@ -147,7 +135,7 @@ template <class T, int N, bool Follow> struct LuBlock {
   M with[exchanges][N];
   I p[N];
 
-  // load(i, j) is an element of the source. False if a lane is singular.
+  // load(j, x) is column j of the source. False if a lane is singular.
   template <class Load> ZELM_INLINE bool eliminate(const Load& load) {
     M singular{};
     L place[N];
@@ -179,7 +167,7 @@ private:
   // Column j: the steps before its own, and its own. Returns the magnitude of the pivot.
   template <class J, class Load> ZELM_INLINE L step(J j, const Load& load) {
     L x[N];
-    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { x[i] = load(i, j); });
+    load(j, x);
     if constexpr (Follow)
       ascending(Fixed<0>{}, j, [&](auto k) ZELM_BODY { exchange(k, with[k], x); });
     ascending(Fixed<0>{}, j, [&](auto k) ZELM_BODY {
@@ -275,119 +263,245 @@ ZELM_INLINE void storeIndex(const PlainAddresses<T, int32_t>& index, const Integ
 
 // False, and nothing stored, if an object of the block is singular. Rows of at least a chunk are stored where they
 // belong by address, shorter ones and single elements in the order of the source.
-template <int N, class T>
-ZELM_NOINLINE bool decomposeRows(const ObjectAddresses<T, const char>& src, int64_t srcStep,
-                                 const PlainAddresses<T, int32_t>& index, const ObjectAddresses<T, char>& dst,
-                                 int64_t dstStep) {
-  constexpr bool byAddress = N >= chunkElements<T>;
-  Tile<Lanes<T>, N, N> a;
-  loadRows(src, srcStep, a);
+template <int N, class Source, class Index, class Result>
+ZELM_NOINLINE bool decomposeBlock(const Source& src, const Index& entries, const Result& dst) {
+  using T = typename Result::Element;
+  using L = Lanes<T>;
+  constexpr bool byAddress = Result::unit && N >= chunkElements<T>;
+  const PlainAddresses<T, int32_t> index = entries;
+  Tile<L, N, N> a;
+  if constexpr (Source::unit)
+    loadElements(src, a.element, Fixed<N>{}, Fixed<N>{});
   LuBlock<T, N, byAddress> block;
-  if (!block.eliminate([&](auto i, auto j) ZELM_BODY { return a(i, j); }))
+  const bool passed = block.eliminate([&](auto j, L(&x)[N]) ZELM_BODY {
+    if constexpr (Source::unit)
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { x[i] = a(i, j); });
+    else
+      loadColumn(src, j, x, Fixed<N>{});
+  });
+  if (!passed)
     return false;
   storeIndex<T>(index, block.p);
   ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
-    if constexpr (!byAddress)
-      block.restore(j, block.column[j]);
-    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { a(i, j) = block.column[j][i]; });
+    L x[N];
+    if constexpr (byAddress)
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { x[i] = block.column[j][i]; });
+    else
+      block.restore(j, x);
+    if constexpr (Result::unit)
+      ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { a(i, j) = x[i]; });
+    else
+      storeColumn(dst, j, x, Fixed<N>{});
   });
   if constexpr (byAddress) {
     ZELM_UNROLL
     for (int i = 0; i < N; ++i) {
-      ObjectAddresses<T, char> row;
+      StridedBlock<T, UnitStep<T>> row{{}, 0, {}};
       ZELM_UNROLL
       for (int w = 0; w < laneCount<T>; ++w)
-        row.of[w] = dst.of[w] + (sizeof(T) == 8 ? block.p[i][w] : index.of[w][i]) * dstStep;
-      storeRun<N, T>(row, 0, &a(i, 0));
+        row.objects.of[w] = dst.address(sizeof(T) == 8 ? block.p[i][w] : index.of[w][i], 0, w);
+      row.store(0, 0, Fixed<N>{}, &a(i, 0));
     }
-  } else {
-    storeRows(dst, dstStep, a);
+  } else if constexpr (Result::unit) {
+    storeElements(dst, a.element, Fixed<N>{}, Fixed<N>{});
   }
   return true;
 }
 
-template <int N, class T, class Objects, class Index>
-ZELM_NOINLINE bool decomposeElements(const Positions<N * N>& srcPositions, const Objects& src, const Index& index,
-                                     const Positions<N * N>& dstPositions, const Objects& dst) {
-  LuBlock<T, N, false> block;
-  if (!block.eliminate([&](auto i, auto j) ZELM_BODY { return src.load(srcPositions.of[i * N + j]); }))
-    return false;
-  storeIndex<T>(PlainAddresses<T, int32_t>(index), block.p);
-  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto j) ZELM_BODY {
-    Lanes<T> x[N];
-    block.restore(j, x);
-    ascending(Fixed<0>{}, Fixed<N>{}, [&](auto i) ZELM_BODY { dst.store(dstPositions.of[i * N + j], x[i]); });
+// ---------------------------------------------------------------------------------------------------------------------
+// General loop, a block of matrices in lanes
+
+// Rows change places here: row k is the one that step k chose. False if a lane is singular.
+template <class L, class Side> ZELM_INLINE bool decomposeLanes(L* a, L* place, Side side) {
+  using T = ElementOf<L>;
+  using M = MaskOf<L>;
+  ascending(Fixed<0>{}, side,
+            [&](auto i) ZELM_BODY { place[i] = reinterpret_cast<L>(IntegerOf<L>{} + static_cast<int>(i)); });
+  const auto exchange = [](const M& lanes, L& x, L& y) ZELM_BODY {
+    const L old = x;
+    x = select<L>(lanes, y, x);
+    y = select<L>(lanes, old, y);
+  };
+  return whileAscending(Fixed<0>{}, side, [&](auto k) ZELM_BODY {
+    // The first one wins among equals, and a NaN neither replaces nor is replaced.
+    M replaces[luLaneSide];
+    L largest = magnitude(a[k * side + k]);
+    ascending(next(k), side, [&](auto i) ZELM_BODY {
+      const L candidate = magnitude(a[i * side + k]);
+      replaces[i] = greater(candidate, largest);
+      largest = larger(candidate, largest);
+    });
+    if (any(greaterEqual(splat<L>(loopLimit<T>), largest)))
+      return false;
+    M replaced{};
+    descending(next(k), side, [&](auto i) ZELM_BODY {
+      const M lanes = without(replaces[i], replaced);
+      replaced = either(replaced, replaces[i]);
+      if (isFixed<Side> || any(lanes)) {
+        exchange(lanes, place[k], place[i]);
+        ascending(Fixed<0>{}, side, [&](auto j) ZELM_BODY { exchange(lanes, a[k * side + j], a[i * side + j]); });
+      }
+    });
+    const L reciprocal = splat<L>(T(1)) / a[k * side + k];
+    ascending(next(k), side, [&](auto i) ZELM_BODY {
+      const L factor = a[i * side + k] * reciprocal;
+      a[i * side + k] = factor;
+      ascending(next(k), side, [&](auto j) ZELM_BODY { a[i * side + j] = a[i * side + j] - factor * a[k * side + j]; });
+    });
+    return true;
   });
+}
+
+template <class T, class Source, class Result>
+ZELM_NOINLINE bool decomposeGeneralBlock(const Source& src, const PlainAddresses<T, int32_t>& index, const Result& dst,
+                                         int side) {
+  Lanes<T> element[luLaneSide * luLaneSide];
+  Lanes<T> place[luLaneSide];
+  loadElements(src, element, side, side);
+  if (!decomposeLanes(element, place, side))
+    return false;
+  for (int i = 0; i < side; ++i) {
+    const auto p = reinterpret_cast<IntegerOf<Lanes<T>>>(place[i]);
+    for (int w = 0; w < laneCount<T>; ++w)
+      index.of[w][i] = static_cast<int32_t>(p[w]);
+  }
+  for (int i = 0; i < side; ++i)
+    storeRowByIndex<T>(dst, index, i, side, element + i * side);
   return true;
 }
+
+// Side 2: the rows go back to their places before they are stored.
+template <class T, class Source, class Result>
+ZELM_NOINLINE bool decomposePairs(const Source& src, const PlainAddresses<T, int32_t>& index, const Result& dst) {
+  using L = Lanes<T>;
+  using I = IntegerOf<L>;
+  L a[4];
+  L place[2];
+  loadElements(src, a, Fixed<2>{}, Fixed<2>{});
+  if (!decomposeLanes(a, place, Fixed<2>{}))
+    return false;
+  const auto exchanged = unequal(reinterpret_cast<I>(place[0]), I{});
+  const L inPlace[4] = {select<L>(exchanged, a[2], a[0]), select<L>(exchanged, a[3], a[1]),
+                        select<L>(exchanged, a[0], a[2]), select<L>(exchanged, a[1], a[3])};
+  storeElements(dst, inPlace, Fixed<2>{}, Fixed<2>{});
+  storeEntryPairs<T>(index, place);
+  return true;
+}
+
+// The matrices of an array of the standard or the list layout, or a single matrix: what the general loops work on.
+template <class T, class Stride> struct StridedMatrices {
+  using Element = std::remove_const_t<T>;
+  using Step = typename Stride::template Step<T>;
+  static constexpr bool isArray = true;
+  T* const* list; // or null, and the objects are at origin and every stride0 bytes
+  Byte<T>* origin;
+  int64_t offset;
+  int64_t stride1;
+  Step stride2;
+  StridedMatrices(const Matrix<T, Stride>& x)
+      : list(nullptr), origin(reinterpret_cast<Byte<T>*>(x.pointer)), offset(0), stride1(x.stride1),
+        stride2(x.stride2) {}
+  StridedMatrices(const Matrices<T, Stride>& x)
+      : list(nullptr), origin(reinterpret_cast<Byte<T>*>(x.pointer)), offset(x.stride0), stride1(x.stride1),
+        stride2(x.stride2) {}
+  StridedMatrices(const MatricesL<T, Stride>& x)
+      : list(x.list), origin(nullptr), offset(x.shift), stride1(x.stride1), stride2(x.stride2) {}
+  ZELM_INLINE auto object(int64_t k, int64_t /* rowLength */) const {
+    Byte<T>* const first = list == nullptr ? origin + k * offset : reinterpret_cast<Byte<T>*>(list[k]) + offset;
+    return StridedMatrixView<T, AnyStep, Step>{first, stride1, stride2};
+  }
+};
+
+template <class S, class D>
+ZELM_NOINLINE ZelStatus decomposeGeneralBatch(const S& src, const Plain<int32_t>& index, const D& dst, int32_t side,
+                                              int32_t count) {
+  using T = typename D::Element;
+  const bool inLanes = side <= luLaneSide;
+  auto sources = matrixBlocks(src, side);
+  auto results = matrixBlocks(dst, side);
+  return forBlocks<laneCount<T>, isPointerLayout<D>>(
+      count, areNeighbours(src) && areNeighbours(dst),
+      [&](auto block) ZELM_BODY {
+        if (!inLanes)
+          return false;
+        const auto places = plainAddresses<T>(index, block.first, block.last);
+        const auto& from = sources.at(block);
+        const auto& to = results.at(block);
+        return side == 2 ? decomposePairs<T>(from, places, to) : decomposeGeneralBlock<T>(from, places, to, side);
+      },
+      [&](int64_t k) ZELM_NOINLINE {
+        return decomposeLoop(src.object(k, side), index.single(k).pointer, dst.object(k, side), side);
+      });
+}
+
+template <class S, class D>
+ZELM_INLINE ZelStatus decomposeGeneral(const S& src, const Plain<int32_t>& index, const D& dst, int32_t side,
+                                       int32_t count) {
+  return count == 1 ? decomposeLoop(src.object(0, side), index.pointer, dst.object(0, side), side)
+                    : decomposeGeneralBatch(src, index, dst, side, count);
+}
+
+template <class T, class Stride>
+using GeneralLoop = ZelStatus(const StridedMatrices<const T, Stride>& src, const Plain<int32_t>& index,
+                              const StridedMatrices<T, Stride>& dst, int32_t side, int32_t count);
+template <class T>
+using GeneralLoopP = ZelStatus(const MatricesP<const T>& src, const Plain<int32_t>& index, const MatricesP<T>& dst,
+                               int32_t side, int32_t count);
+
+} // namespace zelm
+
+// clang-format off
+// General loops over all objects of a batch, which the kernels call for sides other than 3 to 6.
+extern "C" {
+zelm::GeneralLoop<float,  zelm::UnitStride> ownzelmLUDecomp_m_32f_S_com;
+zelm::GeneralLoop<double, zelm::UnitStride> ownzelmLUDecomp_m_64f_S_com;
+zelm::GeneralLoop<float,  zelm::AnyStride>  ownzelmLUDecomp_m_32f_S2_com;
+zelm::GeneralLoop<double, zelm::AnyStride>  ownzelmLUDecomp_m_64f_S2_com;
+zelm::GeneralLoopP<float>                   ownzelmLUDecomp_m_32f_P_com;
+zelm::GeneralLoopP<double>                  ownzelmLUDecomp_m_64f_P_com;
+}
+// clang-format on
+
+namespace zelm {
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Kernels
 
-// Object k as a single operand.
-template <class Operand> ZELM_INLINE auto singleOperand(const Operand& x, int64_t k) {
-  if constexpr (Operand::isArray)
-    return x.single(k);
-  else
-    return x;
+// As an array of one object, where it is a single operand.
+template <class Operand> ZELM_INLINE const Operand& asArray(const Operand& x) {
+  return x;
+}
+template <class T> ZELM_INLINE MatricesP<T> asArray(const MatrixP<T>& x) {
+  return {x.list, x.shift, 0};
 }
 
 template <int N, class S, class D>
 inline ZelStatus decomposeFixed(const S& src, const Plain<int32_t>& index, const D& dst, int32_t count) {
   using T = typename D::Element;
-  using View = decltype(dst.object(0, N));
-  constexpr int W = laneCount<T>;
-  const auto one = [&](int64_t k) {
+  const auto one = [&](int64_t k) ZELM_BODY {
     return decomposeOne<N, T>(src.object(k, N), index.pointer + k * N, dst.object(k, N));
   };
   if constexpr (D::isArray) {
-    const auto block = [&] {
-      if constexpr (View::unitRows)
-        return [&](int64_t k) {
-          return decomposeRows<N, T>(matrixAddresses(src, k, count), src.stride1, plainAddresses<T>(index, k, count),
-                                     matrixAddresses(dst, k, count), dst.stride1);
-        };
-      else
-        return [&, srcPositions = matrixPositions<N>(src), dstPositions = matrixPositions<N>(dst),
-                neighbours = areNeighbours(src) && areNeighbours(dst)](int64_t k) {
-          if constexpr (isPointerLayout<D>)
-            if (neighbours && k + W <= count)
-              return decomposeElements<N, T>(srcPositions, NeighbourOffsets<T>{objectOffset(src, k)},
-                                             PlainRun<N, T, int32_t>{index.pointer + k * N}, dstPositions,
-                                             NeighbourOffsets<T>{objectOffset(dst, k)});
-          return decomposeElements<N, T>(srcPositions, objectOffsets(src, k, count), plainAddresses<T>(index, k, count),
-                                         dstPositions, objectOffsets(dst, k, count));
-        };
-    }();
-    for (int64_t k = 0; k < count; k += W) {
-      const int64_t end = count - k < W ? count : k + W;
-      if (end - k > 1 && block(k))
-        continue;
-      // Object by object up to the one that fails.
-      for (int64_t m = k; m < end; ++m)
-        if (const ZelStatus status = one(m); status != zelStatusOk)
-          return status;
-    }
-    return zelStatusOk;
+    auto sources = matrixBlocks(src, Fixed<N>{});
+    auto results = matrixBlocks(dst, Fixed<N>{});
+    return forBlocks<laneCount<T>, isPointerLayout<D>>(
+        count, areNeighbours(src) && areNeighbours(dst),
+        [&](auto block) ZELM_BODY {
+          return decomposeBlock<N>(sources.at(block), entriesOf<N, T>(index, block), results.at(block));
+        },
+        one);
   } else {
     return one(0);
   }
 }
 
-// The general loop that a kernel calls.
-
+// Loop is the general loop that a kernel calls.
 template <auto Loop, class S, class D>
 inline ZelStatus decompose(const S& src, const Plain<int32_t>& index, const D& dst, int32_t widthHeight,
                            int32_t count = 1) {
   return forSize(
       Sizes<3, 4, 5, 6>{}, widthHeight, [&](auto side) { return decomposeFixed<side>(src, index, dst, count); },
-      [&] {
-        for (int32_t k = 0; k < count; ++k)
-          if (const ZelStatus status = Loop(singleOperand(src, k), index.single(k), singleOperand(dst, k), widthHeight);
-              status != zelStatusOk)
-            return static_cast<ZelStatus>(status);
-        return static_cast<ZelStatus>(zelStatusOk);
-      });
+      [&] { return Loop(asArray(src), index, asArray(dst), widthHeight, count); });
 }
 
 } // namespace zelm
