@@ -1,4 +1,5 @@
-// LU decomposition and solution: packed batches, the pointer layout with neighbouring objects beside them, two threads.
+// LU decomposition and solution: packed batches, beside them the same taken as columns and the pointer layout with
+// neighbouring objects, two threads.
 #include "systems.h"
 
 #include <omp.h>
@@ -18,6 +19,17 @@ template <class T> auto packedCall(int n) {
     int32_t* const index = result<int32_t>(b, 4);
     decompose(source<T>(b, 0), n * n * e, n * e, e, index, factors, n * n * e, n * e, e, n, b.count);
     solve(factors, n * n * e, n * e, e, index, source<T>(b, 1), n * e, e, result<T>(b, 3), n * e, e, n, b.count);
+  };
+}
+
+// The same column after column.
+template <class T> auto columnsCall(int n) {
+  const int e = sizeof(T);
+  return [=](auto decompose, auto solve, const Block& b) {
+    T* const factors = result<T>(b, 2);
+    int32_t* const index = result<int32_t>(b, 4);
+    decompose(source<T>(b, 0), n * n * e, e, n * e, index, factors, n * n * e, e, n * e, n, b.count);
+    solve(factors, n * n * e, e, n * e, index, source<T>(b, 1), n * e, e, result<T>(b, 3), n * e, e, n, b.count);
   };
 }
 
@@ -45,11 +57,12 @@ template <class T> Case systems(const char* form, int n, std::vector<Contender> 
 }
 
 template <class T>
-void addSize(int n, std::vector<Contender> contenders, const std::vector<Contender>& pointer,
-             const std::shared_ptr<SystemPositions<T>>& positions) {
+void addSize(int n, std::vector<Contender> contenders, const std::vector<Contender>& columns,
+             const std::vector<Contender>& pointer, const std::shared_ptr<SystemPositions<T>>& positions) {
+  contenders.insert(contenders.end(), columns.begin(), columns.end());
   contenders.insert(contenders.end(), pointer.begin(), pointer.end());
   Case entry = systems<T>("ma", n, std::move(contenders));
-  entry.figures = {{"pointer", "pointer", "lib"}};
+  entry.figures = {{"columns", "columns", "lib"}, {"pointer", "pointer", "lib"}};
   entry.prepare = [positions, n](const Block& block) { positions->take(block, n, n); };
   for (const int count : {100, 300, 1000})
     add(entry, std::to_string(count), count);
@@ -75,14 +88,18 @@ template <class T> void addThreads(int n, std::vector<Contender> one) {
 } // namespace
 
 void registerLu() {
-  for (int n = 3; n <= 6; ++n) {
+  for (const int n : {2, 3, 4, 5, 6, 7, 8, 12}) {
     const auto p32 = std::make_shared<SystemPositions<Zel32f>>();
     const auto p64 = std::make_shared<SystemPositions<Zel64f>>();
     addSize(n, BENCH_LIBRARY_2(zelmLUDecomp_ma_32f, zelmLUBackSubst_mava_32f, packedCall<Zel32f>(n)),
+            BENCH_LIBRARY_2(zelmLUDecomp_ma_32f, zelmLUBackSubst_mava_32f, columnsCall<Zel32f>(n), "columns",
+                            Role::other, -1),
             BENCH_LIBRARY_2(zelmLUDecomp_ma_32f_P, zelmLUBackSubst_mava_32f_P, pointerCall(n, p32), "pointer",
                             Role::other, 1),
             p32);
     addSize(n, BENCH_LIBRARY_2(zelmLUDecomp_ma_64f, zelmLUBackSubst_mava_64f, packedCall<Zel64f>(n)),
+            BENCH_LIBRARY_2(zelmLUDecomp_ma_64f, zelmLUBackSubst_mava_64f, columnsCall<Zel64f>(n), "columns",
+                            Role::other, -1),
             BENCH_LIBRARY_2(zelmLUDecomp_ma_64f_P, zelmLUBackSubst_mava_64f_P, pointerCall(n, p64), "pointer",
                             Role::other, 1),
             p64);
