@@ -1,5 +1,5 @@
-// What the frame and the alternatives share. The alternatives are compiled twice with different flags, so this header
-// stays small: it brings no library code of its own into those objects.
+// What the frame and the alternatives share. The alternatives are compiled three times with different flags, so this
+// header stays small: it brings no library code of its own into those objects.
 #pragma once
 
 #include <cstddef>

@@ -18,7 +18,8 @@
 #include <set>
 
 #define ALTERNATIVES(name)                                                                                             \
-  extern "C" bench::Table name##_plain_table();                                                                        \
+  extern "C" bench::Table name##_base_table();                                                                         \
+  extern "C" bench::Table name##_v3_table();                                                                           \
   extern "C" bench::Table name##_native_table();
 #include "alternatives.inc"
 #undef ALTERNATIVES
@@ -28,7 +29,7 @@ namespace {
 
 // ---- builds and alternatives
 
-const char* const buildNames[] = {"base", "wide"};
+const char* const buildNames[] = {"base", "v3", "native"};
 
 const char* nameOf(Build build) {
   return buildNames[static_cast<int>(build)];
@@ -45,7 +46,8 @@ void* openLibrary(const char* path) {
 
 std::vector<Contender> alternativesFor(const std::string& key) {
   static const std::pair<Build, Table> tables[] = {
-#define ALTERNATIVES(name) {Build::base, name##_plain_table()}, {Build::wide, name##_native_table()},
+#define ALTERNATIVES(name)                                                                                             \
+  {Build::base, name##_base_table()}, {Build::v3, name##_v3_table()}, {Build::native, name##_native_table()},
 #include "alternatives.inc"
 #undef ALTERNATIVES
   };
@@ -279,23 +281,26 @@ void figures(benchmark::State& state, const Case& entry, const std::map<std::str
   };
 
   double library = std::numeric_limits<double>::quiet_NaN();
-  double best = std::numeric_limits<double>::infinity();
+  const double none = std::numeric_limits<double>::infinity();
+  double best = none, bestNative = none;
+  // Wide vectors are not always the faster ones in memory: a build is held against the fastest loop up to its width.
+  double contiguous = none;
   for (const Contender& contender : contenders) {
-    if (contender.build != build)
-      continue;
-    if (contender.role == Role::library)
-      library = time(contender.who);
-    if (contender.role == Role::alternative)
-      best = std::min(best, time(contender.who));
+    const double own = ns.at(contender.who + "." + nameOf(contender.build));
+    if (contender.role == Role::library && contender.build == build)
+      library = own;
+    if (contender.role == Role::alternative && contender.build == build)
+      best = std::min(best, own);
+    if (contender.role == Role::alternative && contender.build == Build::native)
+      bestNative = std::min(bestNative, own);
+    if (contender.role == Role::contiguous && contender.build <= build)
+      contiguous = std::min(contiguous, own);
   }
   if (std::isfinite(best))
     set("ratio.best", library / best);
-  // Wide vectors are not always the faster ones in memory: the wide build is held against the faster of both loops.
-  double contiguous = time("contiguous");
-  if (build == Build::wide)
-    if (const auto narrow = ns.find("contiguous.base"); narrow != ns.end())
-      contiguous = std::min(contiguous, narrow->second);
-  if (!std::isnan(contiguous))
+  if (std::isfinite(bestNative) && build != Build::native)
+    set("ratio.native", library / bestNative);
+  if (std::isfinite(contiguous))
     set("ratio.contiguous", library / contiguous);
   for (const Figure& figure : entry.figures) {
     const double first = time(figure.first);
@@ -339,7 +344,7 @@ void run(benchmark::State& state, const Case& entry, int count) {
       noise = std::max(noise, timings[c].quartile / timings[c].least);
       state.counters["ns." + key] = ns[key];
     }
-    for (const Build build : {Build::base, Build::wide})
+    for (const Build build : builds)
       figures(state, entry, ns, build, contenders);
     state.counters["count"] = count;
     state.counters["noise"] = noise; // largest lower quartile by minimum
@@ -347,13 +352,14 @@ void run(benchmark::State& state, const Case& entry, int count) {
   }
 }
 
-// ---- report: a line for each case, the two builds side by side
+// ---- report: a line for each case, the builds side by side
 
 class LineReporter : public benchmark::BenchmarkReporter {
 public:
   bool ReportContext(const Context& context) override {
     PrintBasicContext(&GetErrorStream(), context);
-    GetOutputStream() << "Nanoseconds per object, baseline build / x86-64-v3 build or -march=native; then ratios.\n";
+    GetOutputStream()
+        << "Nanoseconds per object: baseline build / x86-64-v3 / widest build and -march=native; then ratios.\n";
     return true;
   }
 
@@ -394,7 +400,7 @@ private:
         char text[32] = "-";
         if (found != counters.end())
           std::snprintf(text, sizeof text, section == "ratio." ? "%.2f" : "%.3g", found->second.value);
-        GetOutputStream() << text << (build == buildNames[0] ? "/" : "");
+        GetOutputStream() << (build == buildNames[0] ? "" : "/") << text;
       }
     }
   }
@@ -403,9 +409,11 @@ private:
 } // namespace
 
 void* libraryAddress(Build build, const char* symbol) {
-  static void* const base = openLibrary(ZELM_BASE_PATH);
-  static void* const wide = openLibrary(ZELM_V3_PATH);
-  void* address = dlsym(build == Build::base ? base : wide, symbol);
+  static void* const handles[] = {openLibrary(ZELM_BASE_PATH), openLibrary(ZELM_V3_PATH),
+                                  openLibrary(__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl")
+                                                  ? ZELM_V4_PATH
+                                                  : ZELM_V3_PATH)};
+  void* address = dlsym(handles[static_cast<int>(build)], symbol);
   if (!address) {
     std::fprintf(stderr, "zelm_bench: %s\n", dlerror());
     std::exit(EXIT_FAILURE);

@@ -19,8 +19,10 @@
 
 namespace bench {
 
-// The library's baseline build and alternatives at plain -O3, or its x86-64-v3 build and alternatives at -march=native.
-enum class Build { base, wide };
+// The library's baseline build and alternatives at plain -O3, its x86-64-v3 build and alternatives at that level, and
+// the widest build that this processor runs with alternatives at -march=native.
+enum class Build { base, v3, native };
+inline constexpr Build builds[] = {Build::base, Build::v3, Build::native};
 
 using Random = std::mt19937;
 
@@ -77,27 +79,27 @@ void add(const Case& entry);
 // Registers it once with this count, under name/suffix.
 void add(const Case& entry, const std::string& suffix, int count);
 
-// The address of an exported function in one of the library's two builds.
+// The address of an exported function in one of the library's builds.
 void* libraryAddress(Build build, const char* symbol);
 
-// The two builds of exported functions as contenders. `call(function..., block)` works once on the block; it may call
+// The builds of exported functions as contenders. `call(function..., block)` works once on the block; it may call
 // several functions, such as a decomposition and the solution with it.
 template <class... Functions, class Call>
 std::vector<Contender> library(const std::array<const char*, sizeof...(Functions)>& symbols, Call call,
                                const char* who = "lib", Role role = Role::library, int group = 0) {
-  std::vector<Contender> pair;
-  for (const Build build : {Build::base, Build::wide}) {
+  std::vector<Contender> all;
+  for (const Build build : builds) {
     const auto functions = std::apply(
         [build](auto... symbol) { return std::tuple(reinterpret_cast<Functions>(libraryAddress(build, symbol))...); },
         symbols);
-    pair.push_back({who, build, role,
-                    [functions, call](const Block& block, long repetitions) {
-                      for (; repetitions > 0; --repetitions)
-                        std::apply([&](auto... function) { call(function..., block); }, functions);
-                    },
-                    group});
+    all.push_back({who, build, role,
+                   [functions, call](const Block& block, long repetitions) {
+                     for (; repetitions > 0; --repetitions)
+                       std::apply([&](auto... function) { call(function..., block); }, functions);
+                   },
+                   group});
   }
-  return pair;
+  return all;
 }
 
 // Run by main before the benchmarks, one for each family.

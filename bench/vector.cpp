@@ -35,6 +35,31 @@ template <class T> auto scaledSum(int n) {
     function(source<T>(b, 0), n * e, e, T(1.25), source<T>(b, 1), n * e, e, result<T>(b, 2), n * e, e, n, b.count);
   };
 }
+template <class T> auto elementwise(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), n * e, e, source<T>(b, 1), n * e, e, result<T>(b, 2), n * e, e, n, b.count);
+  };
+}
+template <class T> auto elementwiseSingle(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), n * e, e, source<T>(b, 1), e, result<T>(b, 2), n * e, e, n, b.count);
+  };
+}
+template <class T> auto combination(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), n * e, e, T(1.25), source<T>(b, 1), n * e, e, T(0.75), result<T>(b, 2), n * e, e, n,
+             b.count);
+  };
+}
+template <class T> auto oneScaledSum(int n) {
+  const int e = sizeof(T);
+  return [=](auto function, const Block& b) {
+    function(source<T>(b, 0), e, T(1.25), source<T>(b, 1), e, result<T>(b, 2), e, n);
+  };
+}
 template <class T> auto crossBoth() {
   const int e = sizeof(T);
   return [=](auto function, const Block& b) {
@@ -66,6 +91,12 @@ void addBatches(int n) {
   add(entryOf<Zel64f>("L2Norm/va",       n, {array(n), results(1)},            BENCH_LIBRARY(zelmL2Norm_va_64f,       norm<Zel64f>(n))));
   add(entryOf<Zel32f>("Saxpy/vava",      n, {array(n), array(n), results(n)},  BENCH_LIBRARY(zelmSaxpy_vava_32f,      scaledSum<Zel32f>(n))));
   add(entryOf<Zel64f>("Saxpy/vava",      n, {array(n), array(n), results(n)},  BENCH_LIBRARY(zelmSaxpy_vava_64f,      scaledSum<Zel64f>(n))));
+  add(entryOf<Zel32f>("LComb/vava",      n, {array(n), array(n), results(n)},  BENCH_LIBRARY(zelmLComb_vava_32f,      combination<Zel32f>(n))));
+  add(entryOf<Zel64f>("LComb/vava",      n, {array(n), array(n), results(n)},  BENCH_LIBRARY(zelmLComb_vava_64f,      combination<Zel64f>(n))));
+  add(entryOf<Zel32f>("Add/vava",        n, {array(n), array(n), results(n)},  BENCH_LIBRARY(zelmAdd_vava_32f,        elementwise<Zel32f>(n))));
+  add(entryOf<Zel64f>("Add/vava",        n, {array(n), array(n), results(n)},  BENCH_LIBRARY(zelmAdd_vava_64f,        elementwise<Zel64f>(n))));
+  add(entryOf<Zel32f>("Sub/vav",         n, {array(n), single(n), results(n)}, BENCH_LIBRARY(zelmSub_vav_32f,         elementwiseSingle<Zel32f>(n))));
+  add(entryOf<Zel64f>("Sub/vav",         n, {array(n), single(n), results(n)}, BENCH_LIBRARY(zelmSub_vav_64f,         elementwiseSingle<Zel64f>(n))));
 }
 
 void addCross() {
@@ -80,13 +111,15 @@ void addSingles(int n) {
   add(entryOf<Zel64f>("DotProduct/vv", n, {array(n), array(n), results(1)}, BENCH_LIBRARY(zelmDotProduct_vv_64f, oneDot<Zel64f>(n))), "one", 1);
   add(entryOf<Zel32f>("L2Norm/v",      n, {array(n), results(1)},           BENCH_LIBRARY(zelmL2Norm_v_32f,      oneNorm<Zel32f>(n))), "one", 1);
   add(entryOf<Zel64f>("L2Norm/v",      n, {array(n), results(1)},           BENCH_LIBRARY(zelmL2Norm_v_64f,      oneNorm<Zel64f>(n))), "one", 1);
+  add(entryOf<Zel32f>("Saxpy/vv",      n, {array(n), array(n), results(n)}, BENCH_LIBRARY(zelmSaxpy_vv_32f,      oneScaledSum<Zel32f>(n))), "one", 1);
+  add(entryOf<Zel64f>("Saxpy/vv",      n, {array(n), array(n), results(n)}, BENCH_LIBRARY(zelmSaxpy_vv_64f,      oneScaledSum<Zel64f>(n))), "one", 1);
 }
 // clang-format on
 
 } // namespace
 
 void registerVectors() {
-  for (const int n : {3, 4, 5, 6, 16, 100})
+  for (const int n : {3, 4, 5, 6, 16, 100, 1000})
     addBatches(n);
   addCross();
   for (const int n : {3, 1000, 100000})

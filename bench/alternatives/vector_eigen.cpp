@@ -34,6 +34,21 @@ template <class T, int N> void scaledSum(const bench::Block& b) {
     Out<T, N>(bench::result<T>(b, 2) + k * N) =
         In<T, N>(bench::source<T>(b, 0) + k * N) * T(1.25) + In<T, N>(bench::source<T>(b, 1) + k * N);
 }
+template <class T, int N> void combination(const bench::Block& b) {
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Out<T, N>(bench::result<T>(b, 2) + k * N) =
+        In<T, N>(bench::source<T>(b, 0) + k * N) * T(1.25) + In<T, N>(bench::source<T>(b, 1) + k * N) * T(0.75);
+}
+template <class T, int N> void sum(const bench::Block& b) {
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Out<T, N>(bench::result<T>(b, 2) + k * N) =
+        In<T, N>(bench::source<T>(b, 0) + k * N) + In<T, N>(bench::source<T>(b, 1) + k * N);
+}
+template <class T, int N> void difference(const bench::Block& b) {
+  const Eigen::Matrix<T, N, 1> held = In<T, N>(bench::source<T>(b, 1));
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    Out<T, N>(bench::result<T>(b, 2) + k * N) = In<T, N>(bench::source<T>(b, 0) + k * N) - held;
+}
 template <class T> void crossBoth(const bench::Block& b) {
   for (std::ptrdiff_t k = 0; k < b.count; ++k)
     Out<T, 3>(bench::result<T>(b, 2) + k * 3) =

@@ -46,6 +46,25 @@ template <class T, int N> void scaledSum(const bench::Block& b) {
     d[e] = x[e] * T(1.25) + y[e];
 }
 
+// An object at a time, its elements by a loop of known length.
+template <class T, int N, class Operation> void elements(const bench::Block& b, bool single, Operation operation) {
+  const T* __restrict x = bench::source<T>(b, 0);
+  const T* __restrict y = bench::source<T>(b, 1);
+  T* __restrict d = bench::result<T>(b, 2);
+  for (std::ptrdiff_t k = 0; k < b.count; ++k)
+    for (std::ptrdiff_t j = 0; j < N; ++j)
+      d[k * N + j] = operation(x[k * N + j], y[single ? j : k * N + j]);
+}
+template <class T, int N> void combination(const bench::Block& b) {
+  elements<T, N>(b, false, [](T x, T y) { return x * T(1.25) + y * T(0.75); });
+}
+template <class T, int N> void sum(const bench::Block& b) {
+  elements<T, N>(b, false, [](T x, T y) { return x + y; });
+}
+template <class T, int N> void difference(const bench::Block& b) {
+  elements<T, N>(b, true, [](T x, T y) { return x - y; });
+}
+
 template <class T> inline void cross(const T* __restrict a, const T* __restrict b, T* __restrict d) {
   d[0] = a[1] * b[2] - a[2] * b[1];
   d[1] = a[2] * b[0] - a[0] * b[2];
