@@ -158,9 +158,33 @@ ZELM_INLINE void runRest(const Op& op, char* dst, int64_t e, int64_t left, const
     runRest<T, W / 2>(op, dst, e, left, s...);
 }
 
+// Where a run of n elements takes whole vectors from. A store across two cache lines takes twice as long: runs from
+// some length on, which begin anywhere, take 8 to 40 % less time within the caches if their vectors begin at
+// boundaries.
+template <class T, class Op, class... S>
+ZELM_INLINE int64_t runLead(const Op& op, char* dst, int64_t n, const S&... s) {
+  constexpr int64_t least = (runBytes >= 64 ? 512 : 1536) / static_cast<int64_t>(sizeof(T));
+  if (n < least || reinterpret_cast<std::uintptr_t>(dst) % runBytes == 0)
+    return 0;
+  const int64_t lead = elementsToAlignment<T>(dst);
+  if (lead < 0)
+    return 0;
+  runRest<T, runLaneCount<T> / 2>(op, dst, 0, lead, s...);
+  return lead;
+}
+
 template <class T, class Op, class... S> ZELM_INLINE void runKept(const Op& op, char* dst, int64_t n, const S&... s) {
-  const int64_t e = runVectors<T, false>(op, dst, 0, n, s...);
-  runRest<T, runLaneCount<T> / 2>(op, dst, e, n, s...);
+  const int64_t e = runVectors<T, false>(op, dst, runLead<T>(op, dst, n, s...), n, s...);
+  runRest<T, runLaneCount<T> / 2>(op, dst, e, n - e, s...);
+}
+
+// What whole periods leave.
+template <class T, class Op, class... S>
+ZELM_INLINE void runLast(const Op& op, char* dst, int64_t e, int64_t n, const S&... s) {
+  constexpr int64_t W = runLaneCount<T>;
+  for (; e + W <= n; e += W)
+    storeLanes(dst + e * static_cast<int64_t>(sizeof(T)), op(s.template at<RunLanes<T>>(e)...));
+  runRest<T, W / 2>(op, dst, e, n - e, s...);
 }
 
 template <class T, class Op, class... S> ZELM_NOINLINE void runStreamed(Op op, char* dst, int64_t n, S... s) {
@@ -500,10 +524,9 @@ ZELM_INLINE void combineObject(const Op& op, const D& dst, const X&... x) {
                                                                                                          x...);
 }
 
-// Objects from, from + 1, ..., to - 1.
 template <int Rows, int Columns, class Op, class D, class... S>
-ZELM_NOINLINE void eachObject(Op op, int64_t from, int64_t to, D dst, S... s) {
-  for (int64_t k = from; k < to; ++k)
+ZELM_NOINLINE void eachObject(Op op, int64_t count, D dst, S... s) {
+  for (int64_t k = 0; k < count; ++k)
     combineObject<Rows, Columns>(op, dst.view(k), s.view(k)...);
 }
 
@@ -524,11 +547,13 @@ template <class T> struct PackedBlocks : Elements<T> {
   template <class V> ZELM_INLINE RunLanes<T> vector(int64_t e, V v) const {
     return this->template at<RunLanes<T>>(e + v * runLaneCount<T>);
   }
+  ZELM_INLINE void begin(int64_t) {}
   ZELM_INLINE void turn(int64_t) {}
 };
 
 template <class T> struct SameBlocks : Same<T> {
   template <class V> ZELM_INLINE RunLanes<T> vector(int64_t, V) const { return this->template at<RunLanes<T>>(0); }
+  ZELM_INLINE void begin(int64_t) {}
   ZELM_INLINE void turn(int64_t) {}
 };
 
@@ -558,8 +583,11 @@ template <class T, int Size, int Vectors> struct PeriodBlocks {
   static constexpr auto E = static_cast<int64_t>(sizeof(T));
   // Where they leave room for others, the period's vectors stay in registers.
   static constexpr bool held = Vectors <= 12;
-  // The object with its first elements once more, so that a vector can be read from any place of it.
-  char window[(Size + runLaneCount<T>)*sizeof(T)];
+  // The object twice and its first elements once more: a vector can be read from any place of it, and a period may
+  // begin in its middle.
+  static constexpr int length = 2 * Size + runLaneCount<T>;
+  char window[length * sizeof(T)];
+  int64_t first; // element of the object that the blocks begin with
   RunLanes<T> period[held ? Vectors : 1];
   template <int Columns, class S> ZELM_INLINE void fill(const S& source) {
     if (isGapless<Size / Columns, Columns>(source))
@@ -567,20 +595,26 @@ template <class T, int Size, int Vectors> struct PeriodBlocks {
     else
       copyElements<Columns, Size>(source, window);
     ZELM_UNROLL
-    for (int e = Size; e < Size + runLaneCount<T>; e += Size)
-      std::memcpy(window + e * E, window, static_cast<size_t>(smaller(Size, Size + runLaneCount<T> - e)) * sizeof(T));
+    for (int e = Size; e < length; e += Size)
+      std::memcpy(window + e * E, window, static_cast<size_t>(smaller(Size, length - e)) * sizeof(T));
+  }
+  ZELM_INLINE void begin(int64_t e) {
+    first = e % Size;
     if constexpr (held) {
       ZELM_UNROLL
       for (int v = 0; v < Vectors; ++v)
-        period[v] = at<RunLanes<T>>(v * runLaneCount<T>);
+        period[v] = ofPeriod(v);
     }
+  }
+  ZELM_INLINE RunLanes<T> ofPeriod(int v) const {
+    return loadElement<RunLanes<T>>(window + (first + v * runLaneCount<T> % Size) * E);
   }
   template <class L> ZELM_INLINE L at(int64_t e) const { return loadElement<L>(window + e % Size * E); }
   template <class V> ZELM_INLINE RunLanes<T> vector(int64_t, V v) const {
     if constexpr (held)
       return period[v];
     else
-      return at<RunLanes<T>>(v * runLaneCount<T>);
+      return ofPeriod(v);
   }
   ZELM_INLINE void turn(int64_t) {}
 };
@@ -597,6 +631,7 @@ template <class T, int Size, class C> struct ConstantBlocks {
   template <int Vector, int... I> ZELM_INLINE RunLanes<T> spread(std::integer_sequence<int, I...>) const {
     return __builtin_shufflevector(each, each, ((Vector * runLaneCount<T> + I) / Size)...);
   }
+  ZELM_INLINE void begin(int64_t) {}
   ZELM_INLINE void turn(int64_t e) {
     const int64_t k = e / Size;
     if constexpr (std::is_same_v<C, Constants<const T>>) {
@@ -624,21 +659,26 @@ template <int Size, int Columns, int Vectors, class S> ZELM_INLINE auto blocksOf
   }
 }
 
+template <class> constexpr bool areConstantBlocks = false;
+template <class T, int Size, class C> constexpr bool areConstantBlocks<ConstantBlocks<T, Size, C>> = true;
+
 template <int Vectors, class T, class Op, class... B>
-ZELM_INLINE int64_t runBlocks(const Op& op, char* dst, int64_t n, int64_t total, B&&... blocks) {
+ZELM_INLINE void runBlocks(const Op& op, char* dst, int64_t n, int64_t total, B&&... blocks) {
   constexpr int64_t W = runLaneCount<T>;
-  if (isRunStreamed<T>(dst, n, total, blocks...)) {
-    runStreamed<T>(op, dst, n, blocks...);
-    return n;
-  }
+  if (isRunStreamed<T>(dst, n, total, blocks...))
+    return runStreamed<T>(op, dst, n, blocks...);
   int64_t e = 0;
+  // The constants of a block are those of whole objects.
+  if constexpr (!(areConstantBlocks<B> || ...))
+    e = runLead<T>(op, dst, n, blocks...);
+  (blocks.begin(e), ...);
   for (; e + Vectors * W <= n; e += Vectors * W) {
     (blocks.turn(e), ...);
     ascending(Fixed<0>{}, Fixed<Vectors>{}, [&](auto v) ZELM_BODY {
       storeLanes(dst + (e + v * W) * static_cast<int64_t>(sizeof(T)), op(blocks.vector(e, v)...));
     });
   }
-  return e;
+  runLast<T>(op, dst, e, n, blocks...);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -786,18 +826,18 @@ template <class S> ZELM_INLINE bool isDenseAsStored(const S& s, int64_t side) {
     return s.transposed().dense(side, side);
 }
 
-// Objects k, k + 1, ..., count - 1 of known extents.
+// Objects of known extents.
 template <int Rows, int Columns, class Op, class D, class... S>
-ZELM_INLINE void fixedObjects(const Op& op, int64_t k, int64_t count, const D& dst, const S&... s) {
+ZELM_INLINE void fixedObjects(const Op& op, int64_t count, const D& dst, const S&... s) {
   if constexpr (D::unitRows && (S::unitRows && ...) && Rows > 1) {
     if (dst.dense(Columns, Rows) && (s.dense(Columns, Rows) && ...))
-      return eachObject<1, Rows * Columns>(op, k, count, dst, s...);
+      return eachObject<1, Rows * Columns>(op, count, dst, s...);
   } else if constexpr (D::unitRows && !(S::unitRows && ...) && Rows == Columns &&
                        hasWholeObject<typename D::Element, Rows>) {
-    if (k == 0 && dst.dense(Columns, Rows) && (isDenseAsStored(s, Rows) && ...))
+    if (dst.dense(Columns, Rows) && (isDenseAsStored(s, Rows) && ...))
       return eachWholeObject<Rows>(op, count, dst, s...);
   }
-  eachObject<Rows, Columns>(op, k, count, dst, s...);
+  eachObject<Rows, Columns>(op, count, dst, s...);
 }
 
 // One object of known extents.
@@ -816,20 +856,16 @@ ZELM_INLINE void fixedUnitObjects(const Op& op, N objects, const D& dst, const S
   using T = typename D::Element;
   [[maybe_unused]] constexpr int size = Rows * Columns;
   const int64_t count = objects;
-  int64_t k = 0;
   if constexpr (!D::isList && ((!S::isArray || S::unitRows) && ...) && ((S::isHeld || S::isConstants) || ...)) {
     constexpr int vectors = periodVectors<T, size, (S::isConstants || ...)>();
     if (count * size >= vectors * runLaneCount<T> && dst.packed(Columns, Rows, count) &&
         (s.packed(Columns, Rows, count) && ...)) {
-      k = runBlocks<vectors, T>(op, dst.origin, count * size, wholeOf(objects) * size,
-                                blocksOf<size, Columns, vectors>(s)...) /
-          size;
-      if (k == count)
-        return;
+      return runBlocks<vectors, T>(op, dst.origin, count * size, wholeOf(objects) * size,
+                                   blocksOf<size, Columns, vectors>(s)...);
     }
   }
   const auto combine = [&](const auto&... held)
-                           ZELM_BODY { fixedObjects<Rows, Columns>(op, k, count, dst, held.objects()...); };
+                           ZELM_BODY { fixedObjects<Rows, Columns>(op, count, dst, held.objects()...); };
   combine(HeldSource<S, Rows, Columns, S::isHeld>(s)...);
 }
 
@@ -948,18 +984,36 @@ template <class S> ZELM_INLINE bool isSideBySide(const S& s) {
     return true;
 }
 
+// Whether the elements of position (i, j) lie behind n elements that begin with those of (firstI, firstJ).
+template <class S>
+ZELM_INLINE bool liesBehind(const S& s, int64_t firstI, int64_t firstJ, int64_t n, int64_t i, int64_t j) {
+  if constexpr (isUniform<S>)
+    return true;
+  else if constexpr (S::isArray)
+    return s.position(i, j) == s.position(firstI, firstJ) + n * static_cast<int64_t>(sizeof(typename S::Element));
+  else
+    return false;
+}
+
 template <class Op, class H, class N, class D, class... S>
 ZELM_NOINLINE void positionsSideBySide(Op op, int32_t width, H height, N count, D dst, S... s) {
   using T = typename D::Element;
   const int64_t total = wholeOf(count) * width * height;
   const bool streams = total * static_cast<int64_t>(sizeof(T)) >= streamingBytes;
-  for (int32_t i = 0; i < height; ++i)
-    for (int32_t j = 0; j < width; ++j) {
-      if (__builtin_expect(streams, false))
-        run<T>(op, dst.position(i, j), count, total, positionOf<true>(s, i, j, 0)...);
-      else
-        runKept<T>(op, dst.position(i, j), count, positionOf<true>(s, i, j, 0)...);
-    }
+  for (int32_t i = 0, j = 0; i < height;) {
+    const int32_t firstI = i, firstJ = j;
+    int64_t n = 0;
+    // Planes one behind the other are one run.
+    do {
+      n += count;
+      j = j + 1 < width ? j + 1 : 0;
+      i += j == 0;
+    } while (i < height && liesBehind(dst, firstI, firstJ, n, i, j) && (liesBehind(s, firstI, firstJ, n, i, j) && ...));
+    if (__builtin_expect(streams, false))
+      run<T>(op, dst.position(firstI, firstJ), n, total, positionOf<true>(s, firstI, firstJ, 0)...);
+    else
+      runKept<T>(op, dst.position(firstI, firstJ), n, positionOf<true>(s, firstI, firstJ, 0)...);
+  }
 }
 
 // Scattered elements share cache lines between positions: some objects at a time keep these at hand.
@@ -1009,7 +1063,7 @@ ZELM_INLINE ZelStatus stridedObjects(List sizes, const Op& op, int32_t width, H 
   return forSize(
       sizes, straightSize(width, height),
       [&](auto size) ZELM_BODY {
-        eachObject<isFixed<H> ? 1 : size, size>(op, 0, count, dst.asArray(), s.asArray()...);
+        eachObject<isFixed<H> ? 1 : size, size>(op, count, dst.asArray(), s.asArray()...);
         return zelStatusOk;
       },
       [&]() ZELM_BODY {
