@@ -110,6 +110,21 @@ def markdown(context, cases):
     return "\n".join(lines) + "\n"
 
 
+def summary(cases, levels):
+    """The ratio `best` of the cases at these levels: a row for each function and type, a column for each size."""
+    rows = collections.defaultdict(dict)
+    for name, counters in cases.items():
+        *function, kind, size, level = name.split("/")
+        if level in levels and "ratio.best" in ratio_names(counters):
+            sides = size.split("x")
+            rows["/".join(function), kind][sides[0] if len(set(sides)) == 1 else size] = pair(counters, "ratio.best", ".2f")
+    sizes = sorted({size for row in rows.values() for size in row}, key=lambda size: [int(side) for side in size.split("x")])
+    lines = ["| Function | Type | " + " | ".join(sizes) + " |", "|---|---|" + "---|" * len(sizes)]
+    for (function, kind), row in rows.items():
+        lines.append(f"| `{function}` | `{kind}` | " + " | ".join(row.get(size, "") for size in sizes) + " |")
+    return "\n".join(lines) + "\n"
+
+
 def svg(cases):
     """One panel for each group and standard ratio, a pair of bars for each case, a line at 1."""
     panels = collections.OrderedDict()
@@ -178,10 +193,14 @@ def main():
     parser.add_argument("json")
     parser.add_argument("--markdown", metavar="FILE")
     parser.add_argument("--svg", metavar="FILE")
+    parser.add_argument("--summary", metavar="LEVEL", nargs="+", help="one table of the ratios at these levels, such as L1 100")
     arguments = parser.parse_args()
     context, cases = read_cases(arguments.json)
     if not cases:
         raise SystemExit(f"{arguments.json}: no results")
+    if arguments.summary:
+        print(summary(cases, arguments.summary), end="")
+        return
     table = markdown(context, cases)
     if arguments.markdown:
         with open(arguments.markdown, "w", encoding="utf-8") as file:

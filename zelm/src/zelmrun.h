@@ -984,15 +984,23 @@ template <class S> ZELM_INLINE bool isSideBySide(const S& s) {
     return true;
 }
 
-// Whether the elements of position (i, j) lie behind n elements that begin with those of (firstI, firstJ).
-template <class S>
-ZELM_INLINE bool liesBehind(const S& s, int64_t firstI, int64_t firstJ, int64_t n, int64_t i, int64_t j) {
+// Whether the elements of position (i, j) begin n elements behind the first one.
+template <class S> ZELM_INLINE bool liesBehind(const S& s, int64_t i, int64_t j, int64_t n) {
   if constexpr (isUniform<S>)
     return true;
   else if constexpr (S::isArray)
-    return s.position(i, j) == s.position(firstI, firstJ) + n * static_cast<int64_t>(sizeof(typename S::Element));
+    return s.position(i, j) == s.position(0, 0) + n * static_cast<int64_t>(sizeof(typename S::Element));
   else
     return false;
+}
+// Whether the planes of all operands, one for each position, lie one behind the other.
+template <class H, class... S>
+ZELM_INLINE bool areOnePlane(int32_t width, H height, int64_t count, const S&... operands) {
+  for (int32_t i = 0; i < height; ++i)
+    for (int32_t j = 0; j < width; ++j)
+      if (!(liesBehind(operands, i, j, (int64_t{i} * width + j) * count) && ...))
+        return false;
+  return true;
 }
 
 template <class Op, class H, class N, class D, class... S>
@@ -1000,20 +1008,19 @@ ZELM_NOINLINE void positionsSideBySide(Op op, int32_t width, H height, N count, 
   using T = typename D::Element;
   const int64_t total = wholeOf(count) * width * height;
   const bool streams = total * static_cast<int64_t>(sizeof(T)) >= streamingBytes;
-  for (int32_t i = 0, j = 0; i < height;) {
-    const int32_t firstI = i, firstJ = j;
-    int64_t n = 0;
-    // Planes one behind the other are one run.
-    do {
-      n += count;
-      j = j + 1 < width ? j + 1 : 0;
-      i += j == 0;
-    } while (i < height && liesBehind(dst, firstI, firstJ, n, i, j) && (liesBehind(s, firstI, firstJ, n, i, j) && ...));
-    if (__builtin_expect(streams, false))
-      run<T>(op, dst.position(firstI, firstJ), n, total, positionOf<true>(s, firstI, firstJ, 0)...);
-    else
-      runKept<T>(op, dst.position(firstI, firstJ), n, positionOf<true>(s, firstI, firstJ, 0)...);
+  int64_t n = count;
+  int32_t rows = height;
+  if (areOnePlane(width, height, count, dst, s...)) {
+    n *= int64_t{width} * height;
+    width = rows = 1;
   }
+  for (int32_t i = 0; i < rows; ++i)
+    for (int32_t j = 0; j < width; ++j) {
+      if (__builtin_expect(streams, false))
+        run<T>(op, dst.position(i, j), n, total, positionOf<true>(s, i, j, 0)...);
+      else
+        runKept<T>(op, dst.position(i, j), n, positionOf<true>(s, i, j, 0)...);
+    }
 }
 
 // Scattered elements share cache lines between positions: some objects at a time keep these at hand.
