@@ -425,44 +425,11 @@ ZELM_INLINE void sweep(const Columns<L, N>& m, const Columns<L, N>& q, const Mas
   }
 }
 
-// The QR iteration: m becomes upper triangular but for blocks of two on the diagonal, from below up to and without the
-// place that is returned for each lane; -1 if all of it has. The exact zeros below the diagonal are what tells blocks.
-template <class Rules, class L, class N> ZELM_INLINE Place<L> iterate(const Columns<L, N>& m, const Columns<L, N>& q) {
-  const int n = m.side;
-  const Place<L> none = placeAt<L>(-1), one = placeAt<L>(1);
-  Progress<L> at{placeAt<L>(0), placeAt<L>(n - 1), placeAt<L>(0), placeAt<L>(30 * n)};
-  auto running = isFrom<L>(at.last, placeAt<L>(0));
-  while (any(running)) {
-    const auto inBudget = both(running, negated(isFrom<L>(at.sweeps, at.budget)));
-    findBlock<Rules, L>(m, inBudget, at);
-    const auto finished = both(running, isFrom<L>(at.first, at.last - one));
-    if (any(finished)) {
-      at.budget = choose<L>(finished, at.budget - at.sweeps, at.budget);
-      at.last = choose<L>(finished, at.first - one, at.last);
-      at.first = choose<L>(finished, placeAt<L>(0), at.first);
-      at.sweeps = choose<L>(finished, placeAt<L>(0), at.sweeps);
-      running = without(running, both(finished, isUpTo<L>(at.last, none)));
-      continue;
-    }
-    running = both(running, inBudget);
-    if (!any(running))
-      break;
-    const Shifts<L> shifts = sweepShifts<Rules>(m, running, at);
-    const Bulge<L> bulge = findBulge(m, running, at, shifts);
-    sweep<Rules>(m, q, running, at, bulge);
-    at.sweeps = choose<L>(running, at.sweeps + one, at.sweeps);
-  }
-  return at.last;
-}
-
 // ---------------------------------------------------------------------------------------------------------------------
 // Standard form
 
 // A block [a b; c d] of two, and the rotation (cs, sn) that makes it what it has become.
-template <class L> struct Block2 {
-  L a, b, c, d, cs, sn, minusSn;
-  L imaginary; // of the first eigenvalue, a; the second is d with the opposite
-};
+template <class L> struct Block2 { L a, b, c, d, cs, sn, minusSn; };
 
 // The eigenvalues of a block, whose diagonal elements become equal if they are complex and c zero if they are real.
 // Equal diagonal elements are reported as a complex pair, whatever the signs of b and c.
@@ -475,7 +442,7 @@ template <class L> ZELM_INLINE Block2<L> standardForm(const L& a, const L& b, co
   const L t = a - d;
   const auto alike = without(notAbove(t, tiny), settled);
 
-  Block2<L> block{a, b, c, d, one, zero, zero, zero};
+  Block2<L> block{a, b, c, d, one, zero, zero};
   if (any(exchanged)) {
     block.a = select(exchanged, d, a);
     block.b = select(exchanged, -c, b);
@@ -487,7 +454,8 @@ template <class L> ZELM_INLINE Block2<L> standardForm(const L& a, const L& b, co
 
   const L p = t * half;
   const L absB = magnitude(b), absC = magnitude(c);
-  const L most = select(greater(absB, absC), absB, absC), least = select(less(absB, absC), absB, absC);
+  const auto isB = greater(absB, absC); // of two comparisons neither would choose a NaN
+  const L most = select(isB, absB, absC), least = select(isB, absC, absB);
   const L signedLeast = select(haveOneSign(b, c), least, -least);
   const L scale = select(greater(magnitude(p), most), magnitude(p), most);
   const L z = (p / scale) * p + (most / scale) * signedLeast;
@@ -507,7 +475,6 @@ template <class L> ZELM_INLINE Block2<L> standardForm(const L& a, const L& b, co
 
   // Complex or nearly equal ones: equal diagonal elements first.
   const auto turned = without(open, real);
-  auto complex = alike;
   if (any(turned)) {
     const L sigma = b + c, tau = lengthOf(sigma, t);
     const L cs = squareRoot((magnitude(sigma) / tau + one) * half);
@@ -519,7 +486,6 @@ template <class L> ZELM_INLINE Block2<L> standardForm(const L& a, const L& b, co
     const auto smallB = notAbove(b2, tiny), smallC = notAbove(c2, tiny);
     const auto split = both(turned, either(smallB, smallC));
     const auto apart = both(without(turned, split), haveOneSign(b2, c2));
-    complex = either(complex, without(turned, either(split, apart)));
     // The rotation goes on: by a right angle where b has vanished, or to make the block triangular.
     const L rootB = squareRoot(magnitude(b2)), rootC = squareRoot(magnitude(c2));
     const L p2 = select(isNegative(c2), -(rootB * rootC), rootB * rootC);
@@ -535,7 +501,6 @@ template <class L> ZELM_INLINE Block2<L> standardForm(const L& a, const L& b, co
     block.sn = select(turned, cs * sn1 + sn * cs1, block.sn);
   }
   block.minusSn = -block.sn;
-  block.imaginary = only(complex, squareRoot(magnitude(block.b)) * squareRoot(magnitude(block.c)));
   return block;
 }
 
@@ -549,36 +514,95 @@ ZELM_INLINE void rotate(const Columns<L, N>& m, int i, int j, int k, int l, cons
   m.put(k, l, select(lanes, by.cs * y + by.minusSn * x, y));
 }
 
-// The standard form of all blocks, and the eigenvalues, of the part of m behind `reached`.
+// The blocks of two that end at `last` become their standard forms in the lanes of the mask; the whole matrix and q
+// take part in the rotation.
 template <class Rules, class L, class N>
-ZELM_INLINE void finish(const Columns<L, N>& m, const Columns<L, N>& q, const Place<L>& reached, const Cells<L>& re,
-                        const Cells<L>& im) {
+ZELM_INLINE void standardise(const Columns<L, N>& m, const Columns<L, N>& q, const MaskOf<L>& pairs,
+                             const Place<L>& last) {
   const int n = m.side;
+  if (!any(pairs))
+    return;
+  L a{}, b{}, c{}, d{};
+  for (int i = 1; i < n; ++i) {
+    const auto here = both(pairs, isAt<L>(last, i));
+    a = select(here, m(i - 1, i - 1), a);
+    b = select(here, m(i - 1, i), b);
+    c = select(here, m(i, i - 1), c);
+    d = select(here, m(i, i), d);
+  }
+  const Block2<L> block = standardForm(a, b, c, d);
+  for (int i = 1; i < n; ++i) {
+    const auto here = both(pairs, isAt<L>(last, i));
+    if (!any(here))
+      continue;
+    m.put(i - 1, i - 1, select(here, block.a, m(i - 1, i - 1)));
+    m.put(i - 1, i, select(here, block.b, m(i - 1, i)));
+    m.put(i, i - 1, select(here, block.c, m(i, i - 1)));
+    m.put(i, i, select(here, block.d, m(i, i)));
+    if constexpr (Rules::wholeMatrix) {
+      for (int j = i + 1; j < n; ++j)
+        rotate(m, i - 1, j, i, j, here, block);
+      for (int j = 0; j < i - 1; ++j)
+        rotate(m, j, i - 1, j, i, here, block);
+      for (int j = 0; j < n; ++j)
+        rotate(q, j, i - 1, j, i, here, block);
+    }
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The iteration
+
+// The QR iteration: m becomes upper triangular but for blocks of two on the diagonal, from below up to and without the
+// place that is returned for each lane; -1 if all of it has. The exact zeros below the diagonal are what tells blocks.
+template <class Rules, class L, class N> ZELM_INLINE Place<L> iterate(const Columns<L, N>& m, const Columns<L, N>& q) {
+  const int n = m.side;
+  const Place<L> none = placeAt<L>(-1), one = placeAt<L>(1);
+  Progress<L> at{placeAt<L>(0), placeAt<L>(n - 1), placeAt<L>(0), placeAt<L>(30 * n)};
+  auto running = isFrom<L>(at.last, placeAt<L>(0));
+  while (any(running)) {
+    const auto inBudget = both(running, negated(isFrom<L>(at.sweeps, at.budget)));
+    findBlock<Rules, L>(m, inBudget, at);
+    const auto finished = both(running, isFrom<L>(at.first, at.last - one));
+    if (any(finished)) {
+      if constexpr (Rules::wholeMatrix)
+        standardise<Rules>(m, q, without(finished, isFrom<L>(at.first, at.last)), at.last);
+      at.budget = choose<L>(finished, at.budget - at.sweeps, at.budget);
+      at.last = choose<L>(finished, at.first - one, at.last);
+      at.first = choose<L>(finished, placeAt<L>(0), at.first);
+      at.sweeps = choose<L>(finished, placeAt<L>(0), at.sweeps);
+      running = without(running, both(finished, isUpTo<L>(at.last, none)));
+      continue;
+    }
+    running = both(running, inBudget);
+    if (!any(running))
+      break;
+    const Shifts<L> shifts = sweepShifts<Rules>(m, running, at);
+    const Bulge<L> bulge = findBulge(m, running, at, shifts);
+    sweep<Rules>(m, q, running, at, bulge);
+    at.sweeps = choose<L>(running, at.sweeps + one, at.sweeps);
+  }
+  return at.last;
+}
+
+// The eigenvalues of the part of m behind `reached`. Without vectors, what comes later never touches a block that is
+// done: then all blocks become their standard forms here.
+template <class Rules, class L, class N>
+ZELM_INLINE void takeValues(const Columns<L, N>& m, const Place<L>& reached, const Cells<L>& re, const Cells<L>& im) {
+  const int n = m.side;
+  if constexpr (!Rules::wholeMatrix)
+    for (int i = n - 1; i > 0; --i)
+      standardise<Rules>(m, m, both(unequal(m(i, i - 1), L{}), isUpTo<L>(reached, placeAt<L>(i - 2))), placeAt<L>(i));
   for (int i = 0; i < n; ++i) {
     re.put(i, m(i, i));
     im.put(i, L{});
   }
-  for (int i = n - 1; i > 0; --i) {
-    const auto pair = both(unequal(m(i, i - 1), L{}), isUpTo<L>(reached, placeAt<L>(i - 2)));
-    if (!any(pair))
-      continue;
-    const Block2<L> block = standardForm(m(i - 1, i - 1), m(i - 1, i), m(i, i - 1), m(i, i));
-    re.put(i - 1, select(pair, block.a, re(i - 1)));
-    re.put(i, select(pair, block.d, re(i)));
-    im.put(i - 1, select(pair, block.imaginary, im(i - 1)));
-    im.put(i, select(pair, L{} - block.imaginary, im(i)));
-    if constexpr (Rules::wholeMatrix) {
-      m.put(i - 1, i - 1, select(pair, block.a, m(i - 1, i - 1)));
-      m.put(i - 1, i, select(pair, block.b, m(i - 1, i)));
-      m.put(i, i - 1, select(pair, block.c, m(i, i - 1)));
-      m.put(i, i, select(pair, block.d, m(i, i)));
-      for (int j = i + 1; j < n; ++j)
-        rotate(m, i - 1, j, i, j, pair, block);
-      for (int j = 0; j < i - 1; ++j)
-        rotate(m, j, i - 1, j, i, pair, block);
-      for (int j = 0; j < n; ++j)
-        rotate(q, j, i - 1, j, i, pair, block);
-    }
+  for (int i = 1; i < n; ++i) {
+    // What is left below the diagonal is that of a complex pair, or negligible.
+    const auto pair = without(isUpTo<L>(reached, placeAt<L>(i - 2)), notAbove(m(i, i - 1), tinyOf<L>));
+    const L imaginary = squareRoot(magnitude(m(i - 1, i))) * squareRoot(magnitude(m(i, i - 1)));
+    im.put(i - 1, select(pair, imaginary, im(i - 1)));
+    im.put(i, select(pair, -imaginary, im(i)));
   }
 }
 
@@ -618,7 +642,7 @@ ZELM_NOINLINE ZelStatus valuesOfOne(const Cells<T>& scratch, int32_t side, const
   reduceToHessenberg(m, tau, work);
   clearBelowSubdiagonal(m);
   const int reached = iterate<ValuesOnly>(m, m);
-  finish<ValuesOnly>(m, m, reached, tau, work);
+  takeValues<ValuesOnly>(m, reached, tau, work);
   putValues(tau, work, reached, side, re, im);
   return reached < 0 ? zelStatusOk : zelStatusNoConvergence;
 }
@@ -676,7 +700,7 @@ template <class T, class N> ZELM_INLINE void valuesOfSide(EigenBlock<T>& block, 
   reduceToHessenberg(m, block.re.cells(), block.im.cells());
   clearBelowSubdiagonal(m);
   block.reached.lanes[0] = iterate<ValuesOnly>(m, m);
-  finish<ValuesOnly>(m, m, block.reached.lanes[0], block.re.cells(), block.im.cells());
+  takeValues<ValuesOnly>(m, block.reached.lanes[0], block.re.cells(), block.im.cells());
 }
 
 template <class T> ZELM_NOINLINE void valuesOfBlock(EigenBlock<T>& block, int32_t side) {

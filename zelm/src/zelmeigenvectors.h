@@ -542,7 +542,7 @@ ZELM_NOINLINE int decomposeOne(const VectorScratch<T>& scratch, const Cells<T>& 
   accumulateReflectors(m, tau, q);
   clearBelowSubdiagonal(m);
   const int reached = iterate<Rules>(m, q);
-  finish<Rules>(m, q, reached, tau, work);
+  takeValues<Rules>(m, reached, tau, work);
   putValues(tau, work, reached, scratch.side, re, im);
   return reached;
 }
@@ -594,7 +594,7 @@ template <class Rules, class T, class N> ZELM_INLINE void decomposeSide(EigenVec
   accumulateReflectors(m, block.re.cells(), q);
   clearBelowSubdiagonal(m);
   block.reached.lanes[0] = iterate<Rules>(m, q);
-  finish<Rules>(m, q, block.reached.lanes[0], block.re.cells(), block.im.cells());
+  takeValues<Rules>(m, block.reached.lanes[0], block.re.cells(), block.im.cells());
 }
 
 template <class Rules, class T> ZELM_NOINLINE void decomposeBlock(EigenVectorBlock<T>& block, int32_t side) {
