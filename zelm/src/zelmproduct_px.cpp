@@ -468,8 +468,8 @@ void multiplyShape(const Objects<const T>& src1, const Objects<const T>& src2, c
   if (turned)
     return multiplyShape<T>(src2.transposed(), src1.transposed(), dst.transposed(), shape.transposed(), first, count);
   const bool runs = shape.columns == 1 || (dst.unitRows() && src2.unitRows());
-  // Many rows of src2, or long ones, fill vectors by themselves; few lanes gain nothing.
-  const bool fills = runs && (shape.columns >= rowLaneCount<T> || laneCount<T> < 8);
+  // Long rows fill vectors by themselves, and of doubles short ones nearly do.
+  const bool fills = runs && (shape.columns >= rowLaneCount<T> || sizeof(T) == 8 || laneCount<T> < 8);
   if (shape.columns == 1 && shape.terms <= longestShort && shape.rows <= longestShort)
     shortColumn<T>(shape.terms, shape.rows, EachPair{})(src1, src2, dst, shape.rows, first, count);
   else if (runs && shape.terms <= longestShort && shape.columns <= longestShort)
