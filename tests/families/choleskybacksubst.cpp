@@ -1,4 +1,5 @@
 // Solution of systems with a Cholesky factor.
+#include "blocks.h"
 #include "systems.h"
 #include "triangle.h"
 
@@ -81,6 +82,10 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, CholeskyBackSubstBlocks) {
+  checkBlocks();
+}
 
 TEST(Results, CholeskyBackSubstDataAreNumbers) {
   expectNumbers<float>(member("zelmCholeskyBackSubst_mava_32f"));

@@ -1,4 +1,5 @@
 // Cholesky decomposition.
+#include "blocks.h"
 #include "triangle.h"
 
 #include "../harness/job.h"
@@ -120,6 +121,10 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, CholeskyDecompBlocks) {
+  checkBlocks();
+}
 
 TEST(CholeskyTriangle, UpperElementsAreNotTouched) {
   checkUpperUntouched();

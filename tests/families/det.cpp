@@ -2,6 +2,7 @@
 #include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
+#include "blocks.h"
 
 #include <gtest/gtest.h>
 
@@ -163,6 +164,10 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, DetBlocks) {
+  checkBlocks();
+}
 
 // ---- What the common suites do not reach in every run
 

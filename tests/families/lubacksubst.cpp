@@ -1,4 +1,5 @@
 // Solution of linear systems from an LU decomposition.
+#include "blocks.h"
 #include "systems.h"
 
 #include "../harness/job.h"
@@ -121,6 +122,10 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, LUBackSubstBlocks) {
+  checkBlocks();
+}
 
 TEST(Results, LUBackSubstDataAreNumbers) {
   expectNumbers<float>(member("zelmLUBackSubst_mava_32f"));

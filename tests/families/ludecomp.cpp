@@ -1,6 +1,7 @@
 // LU decomposition.
 #include "../harness/job.h"
 #include "../harness/run.h"
+#include "blocks.h"
 
 #include <gtest/gtest.h>
 
@@ -182,6 +183,10 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, LUDecompBlocks) {
+  checkBlocks();
+}
 
 // ---- What the common suites do not reach in every run
 

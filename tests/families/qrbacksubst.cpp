@@ -1,4 +1,5 @@
 // Solution of systems with a QR-decomposed matrix.
+#include "blocks.h"
 #include "systems.h"
 #include "tall.h"
 
@@ -126,6 +127,10 @@ Family family() {
 }
 
 const Registration registration{family()};
+
+TEST(Results, QRBackSubstBlocks) {
+  checkBlocks();
+}
 
 TEST(Results, QRBackSubstDataAreNumbers) {
   expectNumbers<float>(member("zelmQRBackSubst_mava_32f"));

@@ -188,7 +188,7 @@ Placed place(const OperandInfo& op, const Dense& dense, Plan plan, size_t slot, 
       std::swap(axes[0], axes[1]);
   } else {
     axes = {{'j', dense.cols, false}, {'i', dense.rows, false}, {'k', dense.objects, byList && scatter}};
-    if (spread == Spread::Interleaved)
+    if (spread == Spread::Interleaved || spread == Spread::Columns)
       std::swap(axes[0], axes[1]);
     else if (spread == Spread::ObjectsInside)
       std::rotate(axes.begin(), axes.begin() + 2, axes.end());

@@ -21,7 +21,8 @@ enum class Spread {
   CombObjects,   // every object on a page of its own, between guards
   CombRows,      // every row
   Random,
-  Count_
+  Count_,
+  Columns // column-major without gaps, where a family asks for it
 };
 
 struct Plan {
