@@ -341,7 +341,7 @@ private:
     if (!(absolute(a - d) <= tiny)) {
       const T t = a - d, p = t * T(0.5);
       const T ab = absolute(b), ac = absolute(c);
-      const T bcmax = ab > ac ? ab : ac, bcmin = ab < ac ? ab : ac;
+      const T bcmax = ab > ac ? ab : ac, bcmin = ab > ac ? ac : ab; // a NaN is one of the two
       const T bcmis = sign(b) == sign(c) ? bcmin : -bcmin;
       const T scale = absolute(p) > bcmax ? absolute(p) : bcmax;
       const T z = (p / scale) * p + (bcmax / scale) * bcmis;

@@ -80,6 +80,8 @@ template <class Job> void reference(Job& job) {
       total = s.inOrder(2);
     else if (small && (!m.hasCount || (m.layout == 'S' && job.unit())))
       total = s.smallSquare();
+    else if (reinterpret_cast<uintptr_t>(src.address()) % 4 != 0) // all into the first sum
+      total = s.inOrder(1);
     else if (!m.hasCount && job.unit() && src.stride1() == 4 * width)
       total = s.asRun(reinterpret_cast<uintptr_t>(src.address()));
     else
