@@ -13,6 +13,6 @@
 namespace zelm {
 
 // By minors up to side 6, by elimination beyond.
-ZELM_WORK(DET_MA) = [](Size widthHeight, Count count) { return 2.0 * widthHeight * widthHeight * widthHeight * count; };
+ZELM_WORK(DET_MA) = [](Size widthHeight, Count count) { return 1.0 * widthHeight * widthHeight * widthHeight * count; };
 
 } // namespace zelm
