@@ -25,7 +25,9 @@ TREE = HERE.parent.parent
 SWITCH = '''#ifndef ZELM_FAULT_SWITCH
 #define ZELM_FAULT_SWITCH
 #include <cstdlib>
-inline const int zelmFault = std::getenv("ZELM_FAULT") == nullptr ? 0 : std::atoi(std::getenv("ZELM_FAULT"));
+inline const int zelmFaultChosen = std::getenv("ZELM_FAULT") == nullptr ? 0 : std::atoi(std::getenv("ZELM_FAULT"));
+// None where the compiler computes.
+constexpr int zelmFault() { return __builtin_is_constant_evaluated() ? 0 : zelmFaultChosen; }
 #endif
 '''
 
@@ -56,8 +58,8 @@ class Fault:
         new = self.new
         if switched:
             statement = self.old.endswith(';')
-            new = (f'{{ if (zelmFault == {self.number}) {{ {self.new} }} else {{ {self.old} }} }}' if statement else
-                   f'(zelmFault == {self.number} ? ({self.new}) : ({self.old}))')
+            new = (f'{{ if (zelmFault() == {self.number}) {{ {self.new} }} else {{ {self.old} }} }}' if statement else
+                   f'(zelmFault() == {self.number} ? ({self.new}) : ({self.old}))')
         return text[:at] + new + text[at + len(self.old):]
 
 
@@ -74,6 +76,18 @@ def read(path):
         else:
             faults.append(Fault(len(faults) + 1, family, stems, file, line))
     return faults
+
+
+def applied(text, faults, switched=False):
+    """The text with all these faults, and those that did not find their place."""
+    lost = []
+    # From the last place on, so that none moves another.
+    for fault in sorted(faults, key=lambda f: -text.find(f.old, max(0, text.find(f.place)))):
+        changed = fault.applied(text, switched)
+        if changed is None:
+            lost.append(fault)
+        text = changed or text
+    return text, lost
 
 
 class Copy:
@@ -100,13 +114,9 @@ class Copy:
             self.ready.add(folder)
         for name in sorted({fault.file for fault in faults}):
             file = self.path / 'zelm' / 'src' / name
-            text = file.read_text()
-            # From the last place on, so that none moves another.
-            own = [fault for fault in faults if fault.file == name]
-            for fault in sorted(own, key=lambda f: -text.find(f.old, max(0, text.find(f.place)))):
-                text = fault.applied(text, switched)
-                if text is None:
-                    sys.exit(f'a fault within another: {fault}')
+            text, lost = applied(file.read_text(), [fault for fault in faults if fault.file == name], switched)
+            if lost:
+                sys.exit(f'not found, or within another fault: {lost[0]}')
             if switched:
                 text = SWITCH + text if '#pragma once\n' not in text else text.replace(
                     '#pragma once\n', '#pragma once\n' + SWITCH, 1)
@@ -123,6 +133,9 @@ class Copy:
     def fails(self, fault, suites=None):
         """Whether a test fails, the quickest suites first; one that does not end does not pass."""
         program = self.path / f'build-{fault.family}' / 'tests' / f'test_{fault.family}'
+        if suites and subprocess.run([program, f'--gtest_filter={suites[0]}', '--gtest_list_tests'],
+                                     capture_output=True).returncode:
+            return False  # there is no such test
         for suite in suites or ('Arguments.*:Thresholds.*', '-Arguments.*:Thresholds.*:Threads.*', 'Threads.*'):
             try:
                 if subprocess.run([program, f'--gtest_filter={suite}', '--gtest_fail_fast', '--gtest_brief=1'],
@@ -181,7 +194,12 @@ def main():
 
     faults = [f for f in read(given.list) if not given.words or {f.family, f.file, f.kind} & set(given.words)]
     if given.check:
-        lost = [f for f in faults if f.applied((TREE / 'zelm/src' / f.file).read_text()) is None]
+        lost = []
+        for family, file in dict.fromkeys((f.family, f.file) for f in faults):
+            own = [f for f in faults if (f.family, f.file) == (family, file)]
+            text = (TREE / 'zelm/src' / file).read_text()
+            lost += applied(text, [f for f in own if f.switched], True)[1]
+            lost += [f for f in own if not f.switched and f.applied(text) is None]
         print(f'{len(faults)} faults', *[f'not found: {f}' for f in lost], sep='\n')
         return bool(lost)
 
