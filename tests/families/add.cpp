@@ -1,60 +1,32 @@
 // Sums of matrices, and of vectors and constants.
+#include "elementwise.h"
 #include "huge.h"
 
-#include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
 
 #include <cstring>
+#include <functional>
 
 namespace {
 
 using namespace zelmtest;
-
-uint32_t oneArray(const Sizes& s) {
-  return s["width"] * s["height"] * (2 * s["count"] + 1);
-}
-uint32_t allArrays(const Sizes& s) {
-  return 3 * s["width"] * s["height"] * s["count"];
-}
-
-uint32_t oneArrayOfVectors(const Sizes& s) {
-  return s["len"] * (2 * s["count"] + 1);
-}
-uint32_t arraysOfVectors(const Sizes& s) {
-  return 3 * s["len"] * s["count"];
-}
-uint32_t vectorsAndConstants(const Sizes& s) {
-  return s["count"] * (2 * s["len"] + 1);
-}
-uint32_t vectorAndConstants(const Sizes& s) {
-  return s["len"] * s["count"] + s["len"] + s["count"];
-}
-
-constexpr Orders single = {"NZS", nullptr, "NZH"}, array = {"NCZS", "NCZSH", "NCZSH"};
-constexpr Limits limits32 = {3000, 2000, 2000, 2000, 2000}, limits64 = {2000, 2000, 2000, 2000, 2000};
-
-// The count of vav is tested behind the strides, in the list layout behind the shifts.
-constexpr Orders vav = {"NZSC", "NZSHC", "NZSCH"};
-constexpr Limits vectors32 = {4800, 4800, 2500, 2500, 1500}, vectors64 = {1400, 1400, 2500, 2500, 1500};
 
 Family matrices() {
   Family f;
   f.name = "Add on matrices";
   // clang-format off
   f.forms = {
-      {ZELMTEST_SINGLE(zelmAdd_mm),  "src1:m src2:m dst:m width height",           single, "src1 src2"},
-      {ZELMTEST_SINGLE(zelmAdd_tm),  "src1:t src2:m dst:m width height",           single, "src2"},
-      {ZELMTEST_SINGLE(zelmAdd_tt),  "src1:t src2:t dst:m width height",           single, ""},
-      // The size test of the standard layout comes last.
-      {ZELMTEST_ARRAY(zelmAdd_mam),  "src1:ma src2:m dst:ma width height count",   {"NCSZ", "NCZSH", "NCZSH"},
-                                                                                          "src1",      oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmAdd_mat),  "src1:ma src2:t dst:ma width height count",   array, "src1",      oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmAdd_tam),  "src1:ta src2:m dst:ma width height count",   array, "",          oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmAdd_tat),  "src1:ta src2:t dst:ma width height count",   array, "",          oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmAdd_mama), "src1:ma src2:ma dst:ma width height count",  array, "src1 src2", allArrays, limits32, limits64},
-      {ZELMTEST_ARRAY(zelmAdd_tama), "src1:ta src2:ma dst:ma width height count",  array, "src2",      allArrays, limits32, limits64},
-      {ZELMTEST_ARRAY(zelmAdd_tata), "src1:ta src2:ta dst:ma width height count",  array, "",          allArrays, limits32, limits64},
+      {ZELMTEST_SINGLE(zelmAdd_mm),  "src1:m src2:m dst:m width height",           single,   "src1 src2"},
+      {ZELMTEST_SINGLE(zelmAdd_tm),  "src1:t src2:m dst:m width height",           single,   "src2"},
+      {ZELMTEST_SINGLE(zelmAdd_tt),  "src1:t src2:t dst:m width height",           single,   ""},
+      {ZELMTEST_ARRAY(zelmAdd_mam),  "src1:ma src2:m dst:ma width height count",   sizeLast, "src1",      oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmAdd_mat),  "src1:ma src2:t dst:ma width height count",   array,    "src1",      oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmAdd_tam),  "src1:ta src2:m dst:ma width height count",   array,    "",          oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmAdd_tat),  "src1:ta src2:t dst:ma width height count",   array,    "",          oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmAdd_mama), "src1:ma src2:ma dst:ma width height count",  array,    "src1 src2", allArrays, matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmAdd_tama), "src1:ta src2:ma dst:ma width height count",  array,    "src2",      allArrays, matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmAdd_tata), "src1:ta src2:ta dst:ma width height count",  array,    "",          allArrays, matrices32, matrices64},
   };
   // clang-format on
   // Add has no mt that mat could call.
@@ -65,13 +37,7 @@ Family matrices() {
       return m.elem == 8 && (m.formName == "mam" || m.formName == "mama") ? m.kernelOfOne("") : "";
     return m.kernelOfOne("_S2");
   };
-  f.reference = both([](auto& job) {
-    auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
-    for (int k = 0; k < job.count(); ++k)
-      for (int i = 0; i < job.size("height"); ++i)
-        for (int j = 0; j < job.size("width"); ++j)
-          dst.set(k, i, j, src1(k, i, j) + src2(k, i, j));
-  });
+  f.reference = ofMatrices(std::plus<>{});
   return f;
 }
 
@@ -80,13 +46,13 @@ Family vectors() {
   f.name = "Add on vectors and constants";
   // clang-format off
   f.forms = {
-      {ZELMTEST_SINGLE(zelmAdd_vv),  "src1:v src2:v dst:v len",          single, "src1 src2"},
-      {ZELMTEST_SINGLE(zelmAdd_vc),  "src1:v src2:c dst:v len",          single, "src1"},
-      {ZELMTEST_ARRAY(zelmAdd_vav),  "src1:va src2:v dst:va len count",  vav,    "src1",      oneArrayOfVectors,   vectors32, vectors64},
-      {ZELMTEST_ARRAY(zelmAdd_vava), "src1:va src2:va dst:va len count", array,  "src1 src2", arraysOfVectors,     vectors32, vectors64},
-      {ZELMTEST_ARRAY(zelmAdd_vac),  "src1:va src2:c dst:va len count",  array,  "src1",      oneArrayOfVectors,   vectors32, vectors64},
-      {ZELMTEST_ARRAY(zelmAdd_vca),  "src1:v src2:ca dst:va len count",  array,  "",          vectorAndConstants,  vectors32, vectors64},
-      {ZELMTEST_ARRAY(zelmAdd_vaca), "src1:va src2:ca dst:va len count", array,  "src1",      vectorsAndConstants, vectors32, vectors64},
+      {ZELMTEST_SINGLE(zelmAdd_vv),  "src1:v src2:v dst:v len",          single,    "src1 src2"},
+      {ZELMTEST_SINGLE(zelmAdd_vc),  "src1:v src2:c dst:v len",          single,    "src1"},
+      {ZELMTEST_ARRAY(zelmAdd_vav),  "src1:va src2:v dst:va len count",  countLast, "src1",      oneArrayOfVectors,   vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vava), "src1:va src2:va dst:va len count", array,     "src1 src2", arraysOfVectors,     vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vac),  "src1:va src2:c dst:va len count",  array,     "src1",      oneArrayOfVectors,   vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vca),  "src1:v src2:ca dst:va len count",  array,     "",          vectorAndConstants,  vectors32, vectors64},
+      {ZELMTEST_ARRAY(zelmAdd_vaca), "src1:va src2:ca dst:va len count", array,     "src1",      vectorsAndConstants, vectors32, vectors64},
   };
   // clang-format on
   f.fork = Fork::Above;
@@ -95,16 +61,8 @@ Family vectors() {
                      m.omitted = {"src1Shift", "dstShift"};
                    }},
                   {"zelmAdd_vaca_32f_P", [](Member& m) { m.omitted = {"src1Stride0"}; }}};
-  f.delegate = [](const Member& m, const Sizes&, bool unit) {
-    return m.layout == 'L' && !unit && (m.formName == "vav" || m.formName == "vava") ? m.kernelOfOne("_S2") : "";
-  };
-  f.reference = both([](auto& job) {
-    auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
-    const bool constant = job.member().formName.find('c') != std::string::npos;
-    for (int k = 0; k < job.count(); ++k)
-      for (int j = 0; j < job.size("len"); ++j)
-        dst.set(k, 0, j, src1(k, 0, j) + src2(k, 0, constant ? 0 : j));
-  });
+  f.delegate = delegateOfVectors;
+  f.reference = ofVectors(std::plus<>{});
   return f;
 }
 
@@ -159,26 +117,10 @@ TEST(Huge, Add_mama) {
   });
 }
 
-// Shifts that are no multiples of an element, and a shift below 0.
 TEST(Results, UntestedShifts) {
-  alignas(8) char memory[200] = {};
-  const double given[] = {1.5, -2.25, 3}, constants[] = {10, 20};
-  for (int shift : {-8, -3, 0, 4, 13}) {
-    std::memcpy(memory + 16 + shift, given, sizeof given);
-    const double* src[3];
-    double* dst[3];
-    for (int j = 0; j < 3; ++j) {
-      src[j] = reinterpret_cast<const double*>(memory + 16 + 8 * j);
-      dst[j] = reinterpret_cast<double*>(memory + 100 - shift + 16 * j);
-    }
-    ASSERT_EQ(zelStatusOk, zelmAdd_vca_64f_P(src, shift, constants, 8, dst, shift, 8, 3, 2));
-    for (int k = 0; k < 2; ++k)
-      for (int j = 0; j < 3; ++j) {
-        double sum;
-        std::memcpy(&sum, memory + 100 + 16 * j + 8 * k, sizeof sum);
-        ASSERT_EQ(given[j] + constants[k], sum) << "shift " << shift;
-      }
-  }
+  checkUntestedShifts<double>(std::plus<>{}, [](auto* src, int shift, auto* constants, auto* dst) {
+    return zelmAdd_vca_64f_P(src, shift, constants, 8, dst, shift, 8, 3, 2);
+  });
 }
 
 TEST(Results, UntestedStride) {

@@ -1,7 +1,7 @@
 // Inverses.
-#include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
+#include "pivots.h"
 
 #include <gtest/gtest.h>
 
@@ -339,10 +339,6 @@ template <class Job> void reference(Job& job) {
   }
 }
 
-template <class T> T beside(T x, int steps) {
-  return steps > 0 ? std::nextafter(x, std::numeric_limits<T>::infinity()) : steps < 0 ? std::nextafter(x, T(0)) : x;
-}
-
 // Data kinds from 10 on:
 // 10 permutation matrices times values                 11 small integers: ties, singular ones
 // 12 permutation matrices with the determinant at a limit or beside it: 1 elsewhere
@@ -356,7 +352,7 @@ template <class Job> void fill(Job& job, Rng& rng, int kind) {
   const int n = job.size("widthHeight"), singular = rng.below(job.count());
   std::vector<int> order(static_cast<size_t>(n));
   std::iota(order.begin(), order.end(), 0);
-  auto value = [&] { return static_cast<T>((rng.chance(2) ? 1 : -1) * (0.5 + rng.below(1 << 20) * 0x1p-20)); };
+  auto value = [&] { return pivotValue<T>(rng); };
   for (int k = 0; k < job.count(); ++k) {
     for (int i = n - 1; i > 0; --i)
       std::swap(order[static_cast<size_t>(i)], order[static_cast<size_t>(rng.below(i + 1))]);

@@ -1,7 +1,7 @@
 // LU decomposition.
-#include "../harness/job.h"
 #include "../harness/run.h"
 #include "blocks.h"
+#include "pivots.h"
 
 #include <gtest/gtest.h>
 
@@ -83,14 +83,6 @@ template <class Job> void reference(Job& job) {
   }
 }
 
-template <class T> T beside(T x, int steps) {
-  for (; steps > 0; --steps)
-    x = std::nextafter(x, std::numeric_limits<T>::infinity());
-  for (; steps < 0; ++steps)
-    x = std::nextafter(x, T(0));
-  return x;
-}
-
 // Data kinds from 10 on:
 // 10 permutation matrices times values    11 ties: small integers
 // 12 diagonal with one pivot at a limit or beside it, rows exchanged       13 sums that cancel to such a pivot
@@ -104,7 +96,7 @@ template <class Job> void fill(Job& job, Rng& rng, int kind) {
   const int n = job.size("widthHeight"), singular = rng.below(job.count());
   std::vector<int> order(static_cast<size_t>(n));
   std::iota(order.begin(), order.end(), 0);
-  auto value = [&] { return static_cast<T>((rng.chance(2) ? 1 : -1) * (0.5 + rng.below(1 << 20) * 0x1p-20)); };
+  auto value = [&] { return pivotValue<T>(rng); };
   for (int k = 0; k < job.count(); ++k) {
     // Small sides take every order in turn.
     if (n <= 6) {

@@ -1,7 +1,7 @@
 // Matrices and vectors times constants.
+#include "elementwise.h"
 #include "huge.h"
 
-#include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
 
@@ -15,14 +15,7 @@ uint32_t matrices(const Sizes& s) {
 uint32_t vectors(const Sizes& s) {
   return 2 * s["len"] * s["count"];
 }
-uint32_t oneVector(const Sizes& s) {
-  return s["len"] * s["count"] + s["len"] + s["count"];
-}
-uint32_t vectorsAndConstants(const Sizes& s) {
-  return s["count"] * (2 * s["len"] + 1);
-}
 
-constexpr Orders single = {"NZS", nullptr, "NZH"}, array = {"NCZS", "NCZSH", "NCZSH"};
 constexpr Limits matrix32 = {3500, 3500, 3500, 1500, 1700}, matrix64 = {3500, 3500, 3500, 3500, 1700};
 constexpr Limits vector32 = {2500, 1440, 3600, 1440, 1440}, vector64 = {3600, 1440, 3600, 1440, 1440};
 constexpr Limits constants = {2100, 2100, 1200, 1200, 650};
@@ -38,7 +31,7 @@ Family family() {
       {ZELMTEST_ARRAY(zelmMul_mac),  "src:ma val:c dst:ma width height count", array,  "src", matrices,            matrix32,  matrix64},
       {ZELMTEST_ARRAY(zelmMul_tac),  "src:ta val:c dst:ma width height count", array,  "",    matrices,            matrix32,  matrix64},
       {ZELMTEST_ARRAY(zelmMul_vac),  "src:va val:c dst:va len count",          array,  "src", vectors,             vector32,  vector64},
-      {ZELMTEST_ARRAY(zelmMul_vca),  "src:v val:ca dst:va len count",          array,  "",    oneVector,           constants, constants},
+      {ZELMTEST_ARRAY(zelmMul_vca),  "src:v val:ca dst:va len count",          array,  "",    vectorAndConstants,  constants, constants},
       {ZELMTEST_ARRAY(zelmMul_vaca), "src:va val:ca dst:va len count",         array,  "src", vectorsAndConstants, constants, constants},
   };
   // clang-format on

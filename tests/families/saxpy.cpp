@@ -1,5 +1,6 @@
 // Scaled sums of vectors: Saxpy and LComb.
-#include "../harness/job.h"
+#include "elementwise.h"
+
 #include "../harness/paths.h"
 #include "../harness/run.h"
 
@@ -12,14 +13,6 @@ namespace {
 
 using namespace zelmtest;
 
-uint32_t oneArray(const Sizes& s) {
-  return s["len"] * (2 * s["count"] + 1);
-}
-uint32_t allArrays(const Sizes& s) {
-  return 3 * s["len"] * s["count"];
-}
-
-constexpr Orders single = {"NZS", nullptr, "NZH"}, array = {"NCZS", "NCZSH", "NCZSH"};
 constexpr Limits saxpy32 = {3000, 2000, 1500, 1000, 1200}, saxpy64 = {3000, 1200, 1000, 1000, 1200};
 constexpr Limits saxpyVva32 = {3000, 2000, 1500, 1500, 1200}; // list, any stride2: as with unit strides
 constexpr Limits lcomb32 = {4500, 4500, 4500, 3750, 4500}, lcomb64 = {4500, 4500, 4500, 4500, 4500};
@@ -30,9 +23,9 @@ Family saxpy() {
   // clang-format off
   f.forms = {
       {ZELMTEST_SINGLE(zelmSaxpy_vv),  "src1:v val:c src2:v dst:v len",          single, "src1 src2"},
-      {ZELMTEST_ARRAY(zelmSaxpy_vav),  "src1:va val:c src2:v dst:va len count",  array,  "src1",      oneArray,  saxpy32,    saxpy64},
-      {ZELMTEST_ARRAY(zelmSaxpy_vva),  "src1:v val:c src2:va dst:va len count",  array,  "src2",      oneArray,  saxpyVva32, saxpy64},
-      {ZELMTEST_ARRAY(zelmSaxpy_vava), "src1:va val:c src2:va dst:va len count", array,  "src1 src2", allArrays, saxpy32,    saxpy64},
+      {ZELMTEST_ARRAY(zelmSaxpy_vav),  "src1:va val:c src2:v dst:va len count",  array,  "src1",      oneArrayOfVectors, saxpy32,    saxpy64},
+      {ZELMTEST_ARRAY(zelmSaxpy_vva),  "src1:v val:c src2:va dst:va len count",  array,  "src2",      oneArrayOfVectors, saxpyVva32, saxpy64},
+      {ZELMTEST_ARRAY(zelmSaxpy_vava), "src1:va val:c src2:va dst:va len count", array,  "src1 src2", arraysOfVectors,   saxpy32,    saxpy64},
   };
   // clang-format on
   f.fork = Fork::Above;
@@ -51,8 +44,8 @@ Family lcomb() {
   // clang-format off
   f.forms = {
       {ZELMTEST_SINGLE(zelmLComb_vv),  "src1:v val1:c src2:v val2:c dst:v len",          single, "src1 src2"},
-      {ZELMTEST_ARRAY(zelmLComb_vav),  "src1:va val1:c src2:v val2:c dst:va len count",  array,  "src1",      oneArray,  lcomb32, lcomb64},
-      {ZELMTEST_ARRAY(zelmLComb_vava), "src1:va val1:c src2:va val2:c dst:va len count", array,  "src1 src2", allArrays, lcomb32, lcomb64},
+      {ZELMTEST_ARRAY(zelmLComb_vav),  "src1:va val1:c src2:v val2:c dst:va len count",  array,  "src1",      oneArrayOfVectors, lcomb32, lcomb64},
+      {ZELMTEST_ARRAY(zelmLComb_vava), "src1:va val1:c src2:va val2:c dst:va len count", array,  "src1 src2", arraysOfVectors,   lcomb32, lcomb64},
   };
   // clang-format on
   f.fork = Fork::Above;

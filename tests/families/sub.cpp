@@ -1,47 +1,21 @@
 // Differences of matrices, and of vectors and constants.
+#include "elementwise.h"
 #include "huge.h"
 
-#include "../harness/job.h"
 #include "../harness/paths.h"
 #include "../harness/run.h"
 
 #include <cmath>
-#include <cstring>
+#include <functional>
 #include <set>
 
 namespace {
 
 using namespace zelmtest;
 
-uint32_t oneArray(const Sizes& s) {
-  return s["width"] * s["height"] * (2 * s["count"] + 1);
-}
-uint32_t allArrays(const Sizes& s) {
-  return 3 * s["width"] * s["height"] * s["count"];
-}
-uint32_t oneArrayOfVectors(const Sizes& s) {
-  return s["len"] * (2 * s["count"] + 1);
-}
-uint32_t arraysOfVectors(const Sizes& s) {
-  return 3 * s["len"] * s["count"];
-}
-uint32_t vectorsAndConstants(const Sizes& s) {
-  return s["count"] * (2 * s["len"] + 1);
-}
-uint32_t vectorAndConstants(const Sizes& s) {
-  return s["len"] * s["count"] + s["len"] + s["count"];
-}
 uint32_t withoutLength(const Sizes& s) {
   return 2 * s["count"] + 1;
 }
-
-constexpr Orders single = {"NZS", nullptr, "NZH"}, array = {"NCZS", "NCZSH", "NCZSH"};
-// The size test of the standard layout comes last.
-constexpr Orders sizeLast = {"NCSZ", "NCZSH", "NCZSH"};
-// The count is tested behind the strides, in the list layout behind the shifts.
-constexpr Orders countLast = {"NZSC", "NZSHC", "NZSCH"};
-constexpr Limits limits32 = {3000, 2000, 2000, 2000, 2000}, limits64 = {2000, 2000, 2000, 2000, 2000};
-constexpr Limits vectors32 = {4800, 4800, 2500, 2500, 1500}, vectors64 = {1400, 1400, 2500, 2500, 1500};
 
 Family matrices() {
   Family f;
@@ -52,18 +26,18 @@ Family matrices() {
       {ZELMTEST_SINGLE(zelmSub_mt),  "src1:m src2:t dst:m width height",          single,   "src1"},
       {ZELMTEST_SINGLE(zelmSub_tm),  "src1:t src2:m dst:m width height",          single,   "src2"},
       {ZELMTEST_SINGLE(zelmSub_tt),  "src1:t src2:t dst:m width height",          single,   ""},
-      {ZELMTEST_ARRAY(zelmSub_mam),  "src1:ma src2:m dst:ma width height count",  sizeLast, "src1",      oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_mat),  "src1:ma src2:t dst:ma width height count",  array,    "src1",      oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_tam),  "src1:ta src2:m dst:ma width height count",  array,    "",          oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_tat),  "src1:ta src2:t dst:ma width height count",  array,    "",          oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_mma),  "src1:m src2:ma dst:ma width height count",  sizeLast, "src2",      oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_mta),  "src1:m src2:ta dst:ma width height count",  array,    "",          oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_tma),  "src1:t src2:ma dst:ma width height count",  array,    "src2",      oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_tta),  "src1:t src2:ta dst:ma width height count",  array,    "",          oneArray,  limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_mama), "src1:ma src2:ma dst:ma width height count", array,    "src1 src2", allArrays, limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_mata), "src1:ma src2:ta dst:ma width height count", array,    "src1",      allArrays, limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_tama), "src1:ta src2:ma dst:ma width height count", array,    "src2",      allArrays, limits32, limits64},
-      {ZELMTEST_ARRAY(zelmSub_tata), "src1:ta src2:ta dst:ma width height count", array,    "",          allArrays, limits32, limits64},
+      {ZELMTEST_ARRAY(zelmSub_mam),  "src1:ma src2:m dst:ma width height count",  sizeLast, "src1",      oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_mat),  "src1:ma src2:t dst:ma width height count",  array,    "src1",      oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_tam),  "src1:ta src2:m dst:ma width height count",  array,    "",          oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_tat),  "src1:ta src2:t dst:ma width height count",  array,    "",          oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_mma),  "src1:m src2:ma dst:ma width height count",  sizeLast, "src2",      oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_mta),  "src1:m src2:ta dst:ma width height count",  array,    "",          oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_tma),  "src1:t src2:ma dst:ma width height count",  array,    "src2",      oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_tta),  "src1:t src2:ta dst:ma width height count",  array,    "",          oneArray,  matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_mama), "src1:ma src2:ma dst:ma width height count", array,    "src1 src2", allArrays, matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_mata), "src1:ma src2:ta dst:ma width height count", array,    "src1",      allArrays, matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_tama), "src1:ta src2:ma dst:ma width height count", array,    "src2",      allArrays, matrices32, matrices64},
+      {ZELMTEST_ARRAY(zelmSub_tata), "src1:ta src2:ta dst:ma width height count", array,    "",          allArrays, matrices32, matrices64},
   };
   // clang-format on
   f.delegate = [](const Member& m, const Sizes&, bool unit) -> std::string {
@@ -74,17 +48,10 @@ Family matrices() {
     static const std::set<std::string> of32 = {"mat", "tata"}, of64 = {"mam", "mat", "mma", "tma", "mama", "tama"};
     return (m.elem == 4 ? of32 : of64).count(m.formName) > 0 ? m.kernelOfOne("") : "";
   };
-  f.reference = both([](auto& job) {
-    auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
-    for (int k = 0; k < job.count(); ++k)
-      for (int i = 0; i < job.size("height"); ++i)
-        for (int j = 0; j < job.size("width"); ++j)
-          dst.set(k, i, j, src1(k, i, j) - src2(k, i, j));
-  });
+  f.reference = ofMatrices(std::minus<>{});
   return f;
 }
 
-// src1 is the vector, whichever comes first in the name.
 Family vectors() {
   Family f;
   f.name = "Sub on vectors and constants";
@@ -110,19 +77,8 @@ Family vectors() {
                      m.omitted = {"src1Shift", "dstShift"};
                    }},
                   {"zelmSub_vva_64f_P", [](Member& m) { m.front = ""; }}};
-  f.delegate = [](const Member& m, const Sizes&, bool unit) {
-    return m.layout == 'L' && !unit && (m.formName == "vav" || m.formName == "vava") ? m.kernelOfOne("_S2") : "";
-  };
-  f.reference = both([](auto& job) {
-    auto src1 = job["src1"], src2 = job["src2"], dst = job["dst"];
-    const std::string& form = job.member().formName;
-    const bool constant = form.find('c') != std::string::npos;
-    for (int k = 0; k < job.count(); ++k)
-      for (int j = 0; j < job.size("len"); ++j) {
-        const auto a = src1(k, 0, j), b = src2(k, 0, constant ? 0 : j);
-        dst.set(k, 0, j, form[0] == 'c' ? b - a : a - b);
-      }
-  });
+  f.delegate = delegateOfVectors;
+  f.reference = ofVectors(std::minus<>{});
   return f;
 }
 
@@ -153,26 +109,10 @@ TEST(Results, OrderOfTheSubtraction) {
   }
 }
 
-// Shifts that are no multiples of an element, and shifts below 0.
 TEST(Results, UntestedShifts) {
-  alignas(8) char memory[200] = {};
-  const float given[] = {1.5f, -2.25f, 3}, constants[] = {10, 20};
-  for (int shift : {-8, -3, 0, 2, 13}) {
-    std::memcpy(memory + 16 + shift, given, sizeof given);
-    const float* src[3];
-    float* dst[3];
-    for (int j = 0; j < 3; ++j) {
-      src[j] = reinterpret_cast<const float*>(memory + 16 + 4 * j);
-      dst[j] = reinterpret_cast<float*>(memory + 100 - shift + 8 * j);
-    }
-    ASSERT_EQ(zelStatusOk, zelmSub_cav_32f_P(src, shift, constants, 4, dst, shift, 4, 3, 2));
-    for (int k = 0; k < 2; ++k)
-      for (int j = 0; j < 3; ++j) {
-        float difference;
-        std::memcpy(&difference, memory + 100 + 8 * j + 4 * k, sizeof difference);
-        ASSERT_EQ(constants[k] - given[j], difference) << "shift " << shift;
-      }
-  }
+  checkUntestedShifts<float>(std::minus<>{}, [](auto* src, int shift, auto* constants, auto* dst) {
+    return zelmSub_cav_32f_P(src, shift, constants, 4, dst, shift, 4, 3, 2);
+  });
 }
 
 TEST(Huge, Sub) {
