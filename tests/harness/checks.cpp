@@ -199,12 +199,12 @@ void results(const Member& m) {
 void far(const Member& m) {
   Cases cases(m, "F");
   for (const char axis : {'k', 'i', 'j'})
-    for (int n : {2, 3, 4}) {
+    for (int n : {2, 3, 4, 6, 7}) {
       if (axis == 'k' && !m.hasCount)
         continue;
       for (Spread spread : {Spread::Packed, Spread::Double}) {
         CaseSpec spec;
-        spec.sizes = m.square(n, axis == 'k' ? 4 : 2);
+        spec.sizes = m.square(n, 4);
         Plan plan = planOf(spread);
         plan.far = axis;
         spec.plans = {plan};
