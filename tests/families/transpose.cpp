@@ -168,6 +168,9 @@ TEST(Streaming, NoneElsewhere) {
   std::vector<double> src(300 * 300), dst(2 * src.size());
   EXPECT_EQ(0,
             traced(1, [&] { return zelmTranspose_m_64f(src.data(), 2400, 8, 300, 300, dst.data(), 2400, 8); }).queries);
+  EXPECT_EQ(0, traced(1, [&] {
+                 return zelmTranspose_ma_64f(src.data(), 8, 2392, 8, 299, 300, dst.data(), 8, 2400, 8, 2);
+               }).queries);
   std::vector<float> single(300 * 300), wide(2 * single.size());
   EXPECT_EQ(0, traced(1, [&] {
                  return zelmTranspose_m_32f(single.data(), 1200, 4, 300, 300, wide.data(), 2400, 8);

@@ -202,12 +202,14 @@ void far(const Member& m) {
     for (int n : {2, 3, 4, 6, 7}) {
       if (axis == 'k' && !m.hasCount)
         continue;
-      for (Spread spread : {Spread::Packed, Spread::Double}) {
+      // The last: objects of the pointer layout are neighbours, and all others have contiguous rows.
+      for (Spread spread : {Spread::Packed, Spread::Double, Spread::ObjectsInside}) {
         CaseSpec spec;
         spec.sizes = m.square(n, 4);
-        Plan plan = planOf(spread);
-        plan.far = axis;
-        spec.plans = {plan};
+        for (const OperandInfo& op : m.operands) {
+          spec.plans.push_back(planOf(spread == Spread::ObjectsInside && op.layout != 'P' ? Spread::Packed : spread));
+          spec.plans.back().far = axis;
+        }
         cases.add(spec);
       }
     }
