@@ -91,21 +91,20 @@ inline ZelStatus transformPoints(const A& src1, const B& src2, const D& dst, Cou
   const auto matrix = loadTile<4, 4>(src1.object(0, 4));
   bool failed = false;
   int64_t k = 0;
-  if constexpr (std::is_same_v<D, Vectors<float, UnitStride>>) {
-    if (src2.packed(3) && dst.packed(3)) {
-      const auto* const from = reinterpret_cast<const char*>(src2.pointer);
-      auto* const to = reinterpret_cast<char*>(dst.pointer);
-      // Vectors of points can be aligned wherever elements are.
-      if (isStreamed<float>(to, int64_t{3} * count, int64_t{3} * count.whole, from)) {
-        int64_t lead = 0;
-        while (elementsToAlignment<float>(to + lead * dst.stride0) != 0)
-          ++lead;
-        transformAny(matrix, src2, dst, 0, lead, failed);
-        k = transformPacked<true>(matrix, from, to, lead, count, failed);
-        endStreams();
-      } else {
-        k = transformPacked<false>(matrix, from, to, 0, count, failed);
-      }
+  // Whatever the strides of the matrix.
+  if (src2.unit() && dst.unit() && src2.packed(3) && dst.packed(3)) {
+    const auto* const from = reinterpret_cast<const char*>(src2.pointer);
+    auto* const to = reinterpret_cast<char*>(dst.pointer);
+    // Vectors of points can be aligned wherever elements are.
+    if (isStreamed<float>(to, int64_t{3} * count, int64_t{3} * count.whole, from)) {
+      int64_t lead = 0;
+      while (elementsToAlignment<float>(to + lead * dst.stride0) != 0)
+        ++lead;
+      transformAny(matrix, src2, dst, 0, lead, failed);
+      k = transformPacked<true>(matrix, from, to, lead, count, failed);
+      endStreams();
+    } else {
+      k = transformPacked<false>(matrix, from, to, 0, count, failed);
     }
   }
   transformAny(matrix, src2, dst, k, count, failed);
