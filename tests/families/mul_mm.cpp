@@ -67,9 +67,8 @@ std::vector<Sizes> shapes(const Member& m) {
     for (int one = 0; one < 4; ++one)
       for (int other : {n - 1, n + 1})
         all.push_back(sizes(one == 0 ? other : n, one == 1 ? other : n, one == 2 ? other : n, one == 3 ? other : n));
-  if (!m.hasCount)
-    for (int code = 0; code < 81; ++code)
-      all.push_back(sizes(code % 3 + 1, code / 3 % 3 + 1, code / 9 % 3 + 1, code / 27 + 1));
+  for (int code = 0; code < 81; ++code)
+    all.push_back(sizes(code % 3 + 1, code / 3 % 3 + 1, code / 9 % 3 + 1, code / 27 + 1));
   Rng rng(1);
   for (int i = 0; i < 24; ++i)
     all.push_back(m.randomShape(rng, i < 16 ? 9 : 20));

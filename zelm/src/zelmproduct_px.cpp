@@ -1,5 +1,6 @@
 // Products of any shape.
 #include "zelmmul_rows.h"
+#include "zelmshortproduct.h"
 
 namespace zelm {
 namespace {
@@ -415,45 +416,54 @@ void multiplyShortRows(const Objects<const T>& src1, const Objects<const T>& src
   }
 }
 
-// One column of H rows: sums side by side.
-template <class T, int K, int H>
-void multiplyShortColumn(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst, int,
-                         T first, int64_t count) {
-  for (int64_t object = 0; object < count; ++object) {
-    const char* const a = src1[object];
-    const char* const b = src2[object];
-    char* const d = dst[object];
-    T second[K];
-    ZELM_UNROLL
-    for (int k = 0; k < K; ++k)
-      second[k] = loadElement<T>(b + k * src2.rowStep);
-    T sum[H];
-    ZELM_UNROLL
-    for (int i = 0; i < H; ++i) {
-      sum[i] = first;
-      ZELM_UNROLL
-      for (int k = 0; k < K; ++k)
-        sum[i] = sum[i] + loadElement<T>(a + i * src1.rowStep + k * src1.columnStep) * second[k];
+// ---------------------------------------------------------------------------------------------------------------------
+// One column: one object a lane, rows that are runs of at least sixteen bytes
+
+template <class T> bool rowsAreLong(const Objects<const T>& src1, const ProductShape& shape) {
+  return !src1.single && src1.unitRows() && shape.terms >= chunkElements<T>;
+}
+// Few terms in few lanes are as quick row by row.
+template <class T> bool paysForColumn(const Objects<const T>& src1, const ProductShape& shape) {
+  if (shape.terms > longestShort)
+    return true;
+  return shape.rows > longestShort && laneCount<T> >= 8 && (src1.single || shape.terms > 2);
+}
+template <class T>
+ZELM_NOINLINE void multiplyLongColumns(const Objects<const T>& src1, const Objects<const T>& src2,
+                                       const Objects<T>& dst, const ProductShape& shape, T first, int64_t count) {
+  constexpr int Q = chunkElements<T>;
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  const Arrangement lie2 = arrange(src2, shape.terms, 1);
+  const Arrangement lie = arrange(dst, shape.rows, 1);
+  Lanes<T> vector[laneElements];
+  Lanes<T> result[laneElements];
+  for (int64_t k = 0; k < count; k += laneCount<T>) {
+    if (k == 0 || !src2.single)
+      loadLanesOf(src2, lie2, k, count, vector);
+    const auto rows = addressesOf(src1, k, count);
+    for (int i = 0; i < shape.rows; ++i) {
+      Lanes<T> sum = splat<Lanes<T>>(first);
+      for (int e = 0; e < shape.terms; e += Q) {
+        const int from = e + Q <= shape.terms ? e : shape.terms - Q;
+        Lanes<T> chunk[Q];
+        loadChunk<T>(rows, i * src1.rowStep + from * E, chunk);
+        ZELM_UNROLL
+        for (int q = 0; q < Q; ++q)
+          if (from + q >= e)
+            sum = sum + chunk[q] * vector[from + q];
+      }
+      result[i] = sum;
     }
-    ZELM_UNROLL
-    for (int i = 0; i < H; ++i)
-      storeElement<T>(d + i * dst.rowStep, sum[i]);
+    storeLanesOf(dst, lie, k, count, result);
   }
 }
 
 template <class T>
 using ShortProduct = void (*)(const Objects<const T>&, const Objects<const T>&, const Objects<T>&, int, T, int64_t);
-using EachPair = std::make_integer_sequence<int, longestShort * longestShort>;
-constexpr int pairOf(int terms, int other) {
-  return (terms - 1) * longestShort + other - 1;
-}
+using EachPair = std::make_integer_sequence<int, longestShort * longestShort>; // of terms and columns
 template <class T, int... i> ShortProduct<T> shortRows(int terms, int columns, std::integer_sequence<int, i...>) {
   static constexpr ShortProduct<T> table[] = {multiplyShortRows<T, i / longestShort + 1, i % longestShort + 1>...};
-  return table[pairOf(terms, columns)];
-}
-template <class T, int... i> ShortProduct<T> shortColumn(int terms, int rows, std::integer_sequence<int, i...>) {
-  static constexpr ShortProduct<T> table[] = {multiplyShortColumn<T, i / longestShort + 1, i % longestShort + 1>...};
-  return table[pairOf(terms, rows)];
+  return table[(terms - 1) * longestShort + columns - 1];
 }
 
 } // namespace
@@ -461,18 +471,21 @@ template <class T, int... i> ShortProduct<T> shortColumn(int terms, int rows, st
 template <class T>
 void multiplyShape(const Objects<const T>& src1, const Objects<const T>& src2, const Objects<T>& dst,
                    const ProductShape& shape, T first, int64_t count) {
+  if (multiplyShort(src1, src2, dst, shape, first, count))
+    return;
   // Vectors run along the rows of the result; where its columns are the runs these are the rows of the transposed
   // product. One column is one for a matrix whose columns are runs too.
   const bool turned = shape.columns == 1 ? shape.rows > 1 && src1.unitColumns() && dst.unitColumns()
                                          : !dst.unitRows() && dst.unitColumns();
   if (turned)
     return multiplyShape<T>(src2.transposed(), src1.transposed(), dst.transposed(), shape.transposed(), first, count);
+  if (shape.columns == 1 && paysForColumn(src1, shape) && goesInLanes(shape, count))
+    return rowsAreLong(src1, shape) ? multiplyLongColumns<T>(src1, src2, dst, shape, first, count)
+                                    : multiplyInLanes<T>(src1, src2, dst, shape, first, count);
   const bool runs = shape.columns == 1 || (dst.unitRows() && src2.unitRows());
   // Long rows fill vectors by themselves, and of doubles short ones nearly do.
   const bool fills = runs && (shape.columns >= rowLaneCount<T> || sizeof(T) == 8 || laneCount<T> < 8);
-  if (shape.columns == 1 && shape.terms <= longestShort && shape.rows <= longestShort)
-    shortColumn<T>(shape.terms, shape.rows, EachPair{})(src1, src2, dst, shape.rows, first, count);
-  else if (runs && shape.terms <= longestShort && shape.columns <= longestShort)
+  if (runs && shape.terms <= longestShort && shape.columns <= longestShort)
     shortRows<T>(shape.terms, shape.columns, EachPair{})(src1, src2, dst, shape.rows, first, count);
   else if (goesInLanes(shape, count) && !fills)
     multiplyInLanes<T>(src1, src2, dst, shape, first, count);
