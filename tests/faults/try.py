@@ -6,7 +6,8 @@
 The faults are those of faults.txt, or only those of the families, files or kinds that are named. They are built for all
 x86-64 processors, with the sources of their family alone, and its tests run until one fails. To save builds,
 
-  - expressions (OLD ?> NEW) are all compiled in, and one of them is chosen by an environment variable;
+  - expressions (OLD ?> NEW) are all compiled in, and one of them is chosen by an environment variable (not so those
+    that the compiler takes for constants: OLD => NEW);
   - faults in rows of different members are built together; of each, its member's tests have to fail;
   - all others are built one by one, and so is what has survived together with others.
 
