@@ -169,8 +169,8 @@ Placed place(const OperandInfo& op, const Dense& dense, Plan plan, size_t slot, 
   const bool byList = op.listed() && op.layout == 'L', byPosition = op.listed() && op.layout == 'P';
   if (op.plain || op.value)
     plan.far = 0;
-  // In the pointer layout it is the shift that reaches far inside an object.
-  if (plan.far != 0 && plan.far != 'k' && byPosition)
+  // The shift reaches far inside an object too; in the pointer layout nothing else does.
+  if (plan.far != 0 && plan.far != 'k' && op.listed())
     plan.shiftElements = static_cast<int>(0x60000000 / elem);
   const int positions = dense.rows * dense.cols;
   const Spread spread = op.plain || op.value ? Spread::Packed : plan.spread;
