@@ -518,7 +518,7 @@ void lanes(const Member& m) {
   if (m.canFail()) {
     // Without what a call takes besides: a block more against a lone object more.
     const uint64_t eight = stepsOf(5, 8), nine = stepsOf(5, 9), sixteen = stepsOf(5, 16);
-    EXPECT_LT((sixteen - eight) * 10, (nine - eight) * 8 * 11)
+    EXPECT_LT((sixteen - eight) * 100, (nine - eight) * 8 * 98)
         << m.name << ": " << eight << " for 8, " << nine << " for 9, " << sixteen << " for 16";
   }
 }
