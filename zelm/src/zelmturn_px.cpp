@@ -68,6 +68,34 @@ ZELM_INLINE void turnColumns(Source source, Result result, int64_t first, int64_
   });
 }
 
+// W objects of N elements, N odd, without gaps are N vectors. Element c of object t lies in lane (N * t + c) % W of one
+// of them, and no two objects share a lane.
+template <int W, int N, int c> struct ObjectOfLane {
+  static constexpr int of(int lane) {
+    int t = 0;
+    while ((N * t + c) % W != lane)
+      ++t;
+    return t;
+  }
+};
+template <int W, int N, int vector> struct ElementOfLane {
+  static constexpr int of(int lane) { return (vector * W + lane) % N; }
+};
+template <class Source, class V, int... w> ZELM_INLINE V permuteLanes(const V& v, std::integer_sequence<int, w...>) {
+  return __builtin_shufflevector(v, v, Source::of(w)...);
+}
+// element[c] has element c of every object, in the objects' order.
+template <int N, class V> ZELM_INLINE void storeGapless(char* to, const V (&element)[N]) {
+  constexpr int W = LaneTraits<V>::width;
+  const std::make_integer_sequence<int, W> lanes;
+  V turned[N];
+  ascending(Fixed<0>{}, Fixed<N>{},
+            [&](auto c) ZELM_BODY { turned[c] = permuteLanes<ObjectOfLane<W, N, c>>(element[c], lanes); });
+  ascending(Fixed<0>{}, Fixed<N>{}, [&](auto v) ZELM_BODY {
+    storeLanes(to + v * static_cast<int>(sizeof(V)), chooseLanes<ElementOfLane<W, N, v>>(turned, turned[0], lanes));
+  });
+}
+
 // The N rows from `row` on; a lane is a column.
 template <class T, int N, class Source, class Result>
 ZELM_INLINE void turnRowsOf(Source source, Result result, int64_t first, int64_t end, int64_t columns, int64_t row,
@@ -84,10 +112,15 @@ ZELM_INLINE void turnRowsOf(Source source, Result result, int64_t first, int64_t
   }
   eachVector<W>(first, end, columns, [&](int64_t c) ZELM_BODY {
     const auto lanesOfRow = [&](int n) ZELM_BODY { return loadLanes<T, W>(from[n] + c * E); };
-    if constexpr (N == 3) {
+    // Whole vectors take 30 to 60 % less time than one object after the other.
+    if constexpr (N == 3 || (N % 2 == 1 && N > 1 && rowBytes > 16)) {
       if (result.gapless(N * E)) {
-        const Tile<RowLanes<T>, 1, 3> triples{{lanesOfRow(0), lanesOfRow(1), lanesOfRow(2)}};
-        storeTriples<false>(result(c), triples);
+        RowLanes<T> lanes[N];
+        ascending(Fixed<0>{}, Fixed<N>{}, [&](auto n) ZELM_BODY { lanes[n] = lanesOfRow(n); });
+        if constexpr (N == 3 && rowBytes == 16)
+          storeTriples<false>(result(c), Tile<RowLanes<T>, 1, 3>{{lanes[0], lanes[1], lanes[2]}});
+        else
+          storeGapless<N>(result(c), lanes);
         return;
       }
     }
