@@ -139,7 +139,8 @@ OVERVIEW = [
 
     "Strides. Stride0 leads from one object of an array to the next, Stride1 from one row of a matrix to the next,\n"
     "Stride2 from one element of a row or vector to the next. They may stand in any order: rows may be padded or\n"
-    "interleaved, and elements lie apart. Calls with every Stride2 equal to the element size are the fast ones.",
+    "interleaved, and elements lie apart. Calls with every Stride2 equal to the element size are the fast ones;\n"
+    "column-major matrices, whose Stride1 is the element size, are as fast in most families.",
 
     "Layouts. X is the operand's argument, k the object, i the row, j the column (of a vector, the element), all from\n"
     "0; XShift, XStride0, XStride1, XStride2 are the arguments behind it. All arithmetic is in bytes.",
@@ -644,6 +645,8 @@ GROUPS["AffineTransform3DH"] = {
     "notes": [
         "A row's sum is ((a0*x0 + a3) + a1*x1) + a2*x2, in 32f; the three coordinates are multiplied by the rounded\n"
         "reciprocal of the fourth.",
+        "Points that are packed in src2 and dst, 12 bytes apart, go several at a time, whatever the strides of src1; others\n"
+        "go one by one.",
     ],
     "example": [
         "  Zel32f matrix[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 1, 2}}, points[100][3] = {{1, 2, 3}};",

@@ -43,7 +43,8 @@ extern "C" {
  *
  * Strides. Stride0 leads from one object of an array to the next, Stride1 from one row of a matrix to the next, Stride2
  * from one element of a row or vector to the next. They may stand in any order: rows may be padded or interleaved, and
- * elements lie apart. Calls with every Stride2 equal to the element size are the fast ones.
+ * elements lie apart. Calls with every Stride2 equal to the element size are the fast ones; column-major matrices,
+ * whose Stride1 is the element size, are as fast in most families.
  *
  * Layouts. X is the operand's argument, k the object, i the row, j the column (of a vector, the element), all from 0;
  * XShift, XStride0, XStride1, XStride2 are the arguments behind it. All arithmetic is in bytes.
@@ -2259,6 +2260,9 @@ ZelStatus zelmGaxpy_mvav_64f_P(const Zel64f* const* src1, int32_t src1Shift, int
  *
  * Notes. A row's sum is ((a0*x0 + a3) + a1*x1) + a2*x2, in 32f; the three coordinates are multiplied by the rounded
  * reciprocal of the fourth.
+ *
+ * Points that are packed in src2 and dst, 12 bytes apart, go several at a time, whatever the strides of src1; others go
+ * one by one.
  *
  * Example:
  *
