@@ -132,23 +132,23 @@ template <class C, int N> ZELM_INLINE bool isWalk(const ElementAddresses<C, N>& 
 }
 
 // Rows of the result from i on, two at a time, which share the loads of src2.
-template <class T, int N, class Single, int i = 0>
+template <class T, int N, int i = 0>
 ZELM_INLINE void multiplyWalking(const Walk<const char>& src1, const Walk<const char>& src2, const Walk<char>& dst,
                                  int64_t offset) {
   constexpr int R = smaller(N - i, 2);
-  const auto rowOfFirst = [&](int r) { return src1.from((i + r) * N, Single::src1 ? 0 : offset); };
+  const auto rowOfFirst = [&](int r) { return src1.from((i + r) * N, offset); };
   Walk<const char> first[2] = {rowOfFirst(0), rowOfFirst(R - 1)};
-  Walk<const char> second = src2.from(0, Single::src2 ? 0 : offset);
+  Walk<const char> second = src2.from(0, offset);
   RowLanes<T> sum[R][N];
   ZELM_UNROLL
   for (int k = 0; k < N; ++k) {
     RowLanes<T> factor[R];
     ZELM_UNROLL
     for (int r = 0; r < R; ++r)
-      factor[r] = loadNeighbours<T, Single::src1>(first[r].next(), 0);
+      factor[r] = loadRowLanes<T>(first[r].next());
     ZELM_UNROLL
     for (int j = 0; j < N; ++j) {
-      const RowLanes<T> b = loadNeighbours<T, Single::src2>(second.next(), 0);
+      const RowLanes<T> b = loadRowLanes<T>(second.next());
       ZELM_UNROLL
       for (int r = 0; r < R; ++r) {
         sum[r][j] = k == 0 ? factor[r] * b : sum[r][j] + factor[r] * b;
@@ -163,7 +163,7 @@ ZELM_INLINE void multiplyWalking(const Walk<const char>& src1, const Walk<const 
   for (int j = 0; j < N; ++j)
     storeLanes(result.next(), sum[r][j]);
   if constexpr (i + R < N)
-    multiplyWalking<T, N, Single, i + R>(src1, src2, dst, offset);
+    multiplyWalking<T, N, i + R>(src1, src2, dst, offset);
 }
 
 // At least as many objects as a vector has lanes; the last vector is moved back to end with the batch.
@@ -181,7 +181,7 @@ ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, co
       const Walk<const char> b(second.at[0], stepOf(second));
       const Walk<char> d(result.at[0], stepOf(result));
       for (int64_t k = 0; k < count; k += W)
-        multiplyWalking<T, N, Single>(a, b, d, (k + W <= count ? k : count - W) * E);
+        multiplyWalking<T, N>(a, b, d, (k + W <= count ? k : count - W) * E);
       return;
     }
   }
@@ -202,6 +202,67 @@ ZELM_NOINLINE void multiplyNeighbours(const PointerMatrixView<const T>& src1, co
       ZELM_UNROLL
       for (int j = 0; j < N; ++j)
         storeLanes(result.at[i * N + j] + offset, sum[j]);
+    }
+  }
+}
+
+// One factor is the same for all objects, and larger than 3 by 3. A line of the other, row i of src1 or column i of
+// src2, is multiplied by two lines of the single factor at a time, or one of six elements, which stay in registers, for
+// the objects from `first` to `end`.
+template <class T, int N, class Single, bool fromZero, int j = 0>
+ZELM_INLINE void multiplyLine(const char* const (&line)[N], const PointerMatrixView<const T>& single,
+                              const PointerMatrixView<T>& dst, int i, int64_t first, int64_t end, int64_t count) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  constexpr int64_t W = rowLaneCount<T>;
+  constexpr int R = smaller(N - j, N < 6 ? 2 : 1);
+  RowLanes<T> held[R][N];
+  char* to[R];
+  ZELM_UNROLL
+  for (int r = 0; r < R; ++r) {
+    to[r] = Single::src2 ? dst.address(i, j + r) : dst.address(j + r, i);
+    ZELM_UNROLL
+    for (int k = 0; k < N; ++k)
+      held[r][k] = splat<RowLanes<T>>(Single::src2 ? single.load(k, j + r) : single.load(j + r, k));
+  }
+  const auto multiply = [&](int64_t offset) ZELM_BODY {
+    RowLanes<T> sum[R];
+    ZELM_UNROLL
+    for (int k = 0; k < N; ++k) {
+      const auto x = loadRowLanes<T>(line[k] + offset);
+      ZELM_UNROLL
+      for (int r = 0; r < R; ++r) {
+        const auto term = Single::src2 ? x * held[r][k] : held[r][k] * x;
+        sum[r] = k > 0 ? sum[r] + term : fromZero ? splat<RowLanes<T>>(0) + term : term;
+      }
+    }
+    ZELM_UNROLL
+    for (int r = 0; r < R; ++r)
+      storeLanes(to[r] + offset, sum[r]);
+  };
+  int64_t k = first;
+  for (; k + W <= end; k += W)
+    multiply(k * E);
+  if (k < end)
+    multiply((count - W) * E);
+  if constexpr (j + R < N)
+    multiplyLine<T, N, Single, fromZero, j + R>(line, single, dst, i, first, end, count);
+}
+
+// At least as many objects as a vector has lanes. Of so many at a time, a line and two positions of the result fit the
+// first cache level.
+template <class T, int N, class Single, bool fromZero>
+ZELM_NOINLINE void multiplyBySingle(PointerMatrixView<const T> src1, PointerMatrixView<const T> src2,
+                                    PointerMatrixView<T> dst, int64_t count) {
+  constexpr auto E = static_cast<int64_t>(sizeof(T));
+  constexpr int64_t tile = (24 << 10) / ((N + 2) * E) / rowLaneCount<T> * rowLaneCount<T>;
+  for (int64_t first = 0; first < count; first += tile) {
+    const int64_t end = first + tile < count ? first + tile : count;
+    for (int i = 0; i < N; ++i) {
+      const char* line[N];
+      ZELM_UNROLL
+      for (int k = 0; k < N; ++k)
+        line[k] = Single::src2 ? src1.address(i, k) : src2.address(k, i);
+      multiplyLine<T, N, Single, fromZero>(line, Single::src2 ? src2 : src1, dst, i, first, end, count);
     }
   }
 }
@@ -303,9 +364,23 @@ ZELM_INLINE ZelStatus multiplyAny(const A& src1, int32_t src1Width, int32_t src1
   const int32_t n = columnsOf<A>(src1Width, src1Height);
   if constexpr (D::isArray && isNeighbour<View>) {
     if (liesSideBySide(src1, src2, dst, count)) {
-      multiplyNeighboursGeneral<SingleSources<A, B, D>>(src1.object(0, src1Width), src2.object(0, src2Width),
-                                                        dst.object(0, columns), rows, columns, n, count);
-      return zelStatusOk;
+      using Single = SingleSources<A, B, D>;
+      const auto general = [&] {
+        multiplyNeighboursGeneral<Single>(src1.object(0, src1Width), src2.object(0, src2Width), dst.object(0, columns),
+                                          rows, columns, n, count);
+        return zelStatusOk;
+      };
+      if constexpr (!Single::src1 && !Single::src2)
+        return general();
+      else // some kernels have no straight-line case of these sides
+        return forSize(
+            Sizes<4, 5, 6>{}, rows == columns && columns == n ? n : 0,
+            [&](auto side) {
+              multiplyBySingle<typename D::Element, side, Single, true>(src1.object(0, side), src2.object(0, side),
+                                                                        dst.object(0, side), count);
+              return zelStatusOk;
+            },
+            general);
     }
   }
   if constexpr (View::strided)
@@ -340,7 +415,10 @@ ZELM_INLINE ZelStatus multiplyFixed(const A& src1, const B& src2, const D& dst, 
     }
     if constexpr (D::isArray && isNeighbour<View>) {
       if (liesSideBySide(src1, src2, dst, count)) {
-        multiplyNeighbours<T, N, Single>(src1.object(0, N), src2.object(0, N), dst.object(0, N), count);
+        if constexpr (N > 3 && (Single::src1 || Single::src2))
+          multiplyBySingle<T, N, Single, false>(src1.object(0, N), src2.object(0, N), dst.object(0, N), count);
+        else
+          multiplyNeighbours<T, N, Single>(src1.object(0, N), src2.object(0, N), dst.object(0, N), count);
         return zelStatusOk;
       }
     }
