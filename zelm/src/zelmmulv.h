@@ -883,20 +883,24 @@ ZELM_NOINLINE int64_t multiplyApart(A stored, B src2, C src3, D dst, int64_t cou
 // is done. Returns the first object not done.
 template <class Tree, int N, bool transposed, class A, class B, class C, class D>
 ZELM_INLINE int64_t multiplyAnywhere(const A& stored, const B& src2, const C& src3, const D& dst, int64_t count) {
-  // Vectors that are loaded alone: four elements by a single matrix are.
-  if constexpr (!A::isArray && N == 4)
-    return 0;
   const auto second = asApart<B, N, true>(src2);
   const auto addend = asApart<C, N, true>(src3);
   const auto result = asApart<D, N, true>(dst);
   if constexpr (A::isArray) {
+    using T = typename D::Element;
     const int64_t rowStep = stored.stride1;
-    if constexpr (N == 3 && sizeof(typename D::Element) == 4)
-      if (rowStep != 3 * 4)
-        return 0; // triples cost as much to load as to multiply
-    if (rowStep != N * static_cast<int64_t>(sizeof(typename D::Element)))
+    const bool gapless = rowStep == N * static_cast<int64_t>(sizeof(T));
+    // Whether matrices without gaps have a quicker way; triples of floats alone cost as much to load as to multiply.
+    constexpr bool onlyGapless = N == 3 && sizeof(T) == 4;
+    constexpr bool byTerms = !transposed && B::isArray && !isAddend<C> &&
+                             ((N == 4 && std::is_same_v<Tree, EvenOdd>) || (sizeof(T) == 8 && N >= rowLaneCount<T>));
+    if constexpr (onlyGapless || byTerms)
+      if (gapless)
+        return multiplyApart<Tree, N, transposed>(asApart<A, N, true>(stored, rowStep), second, addend, result, count);
+    if constexpr (onlyGapless)
+      return 0;
+    else
       return multiplyApart<Tree, N, transposed>(asApart<A, N, false>(stored, rowStep), second, addend, result, count);
-    return multiplyApart<Tree, N, transposed>(asApart<A, N, true>(stored, rowStep), second, addend, result, count);
   } else {
     return multiplyApart<Tree, N, transposed>(stored, second, addend, result, count);
   }
@@ -1062,7 +1066,8 @@ inline void multiplySide(const A& src1, const B& src2, const C& src3, const D& d
         k = multiplyPacked<Tree, N, transposed>(asPacked<N * N>(stored), asPacked<N>(src2), asPacked<N>(src3),
                                                 asPacked<N>(dst), count);
     }
-    if constexpr (D::isArray)
+    // By a single matrix short vectors are quick alone.
+    if constexpr (A::isArray || (D::isArray && N > 4))
       if (!packed)
         k = multiplyAnywhere<Tree, N, transposed>(stored, src2, src3, dst, count);
   } else if constexpr (isStrided<D>) {
