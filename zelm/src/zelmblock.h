@@ -9,6 +9,8 @@
 #include "zelmextent.h"
 #include "zelmtile.h"
 
+#include <new>
+
 namespace zelm {
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -257,14 +259,19 @@ template <class T, class Length> NeighbourBlock<T, Length> neighboursOf(const Po
 
 // One operand's blocks, one after the other in the same place: only the
 // addresses change. (Blocks that were made anew would be copied, in pieces of
-// another size than they were written.)
+// another size than they were written.) The place is made at the first block:
+// a few objects that go one by one do without.
 template <class Operand, class N, class View> class BlocksOf {
 public:
   // view(k) is object k.
   ZELM_INLINE BlocksOf(const Operand& operand, N rowLength, const View& view)
-      : operand_(operand), view_(view), block_(blockOf(view(0), rowLength)) {}
+      : operand_(operand), rowLength_(rowLength), view_(view) {}
 
   template <class B> ZELM_INLINE const auto& at(const B& block) {
+    if (!made_) {
+      new (&block_) Kind(blockOf(view_(0), rowLength_));
+      made_ = true;
+    }
     if constexpr (isPointerLayout<Operand>) {
       if constexpr (B::neighbours) {
         neighbours_ = {block_.list, block_.rowLength, operand_.offset + block.first * operand_.stride0};
@@ -280,6 +287,8 @@ public:
   }
 
 private:
+  using Kind = decltype(blockOf(std::declval<View>()(0), std::declval<N>()));
+
   template <class B, class Place, int W, class F>
   ZELM_INLINE static void place(const B& block, Place (&places)[W], const F& of) {
     if (block.last == W - 1) {
@@ -293,9 +302,13 @@ private:
   }
 
   const Operand& operand_;
+  N rowLength_;
   View view_;
-  decltype(blockOf(std::declval<View>()(0), std::declval<N>())) block_;
-  decltype(neighboursOf(std::declval<decltype(block_)>())) neighbours_{};
+  bool made_ = false;
+  union {
+    Kind block_;
+  };
+  decltype(neighboursOf(std::declval<decltype(block_)>())) neighbours_;
 };
 
 // A matrix operand; rowLength is the width of its rows as stored.
@@ -560,10 +573,17 @@ template <class Operand> ZELM_INLINE bool areNeighboursOrSame(const Operand& x) 
     return true;
 }
 
+// As many systems of a side are solved one by one before they would take as long as a block of Width: the straight-line
+// sides only, known to the compiler.
+template <int Width> constexpr int fewSystems(int side) {
+  return side > 4 || Width < 4 ? Width / 2 : smaller(Width - 1, 7);
+}
+
 // Runs through a batch in blocks of Width objects: a vector full, or twice that for two vectors side by side.
 // lanes(block) returns whether the block is done; one that is not has stored nothing, and goes through single(k) object
-// by object, as does a lone object. single returns a status; the first failure ends the batch.
-template <int Width, bool HasNeighbours, class ForLanes, class ForSingle>
+// by object, as do the last Few objects where no more are left. single returns a status; the first failure ends the
+// batch.
+template <int Width, bool HasNeighbours, int Few = 1, class ForLanes, class ForSingle>
 ZELM_INLINE ZelStatus forBlocks(int32_t count, bool neighbours, const ForLanes& lanes, const ForSingle& single) {
   constexpr int W = Width;
   for (int64_t k = 0; k < count; k += W) {
@@ -572,7 +592,7 @@ ZELM_INLINE ZelStatus forBlocks(int32_t count, bool neighbours, const ForLanes& 
     if (HasNeighbours && neighbours && last == W - 1) {
       if constexpr (HasNeighbours)
         done = lanes(Block<true>{k, last});
-    } else if (last > 0) {
+    } else if (last >= Few) {
       done = lanes(Block<false>{k, last});
     }
     for (int64_t object = k; !done && object <= k + last; ++object)
@@ -583,3 +603,12 @@ ZELM_INLINE ZelStatus forBlocks(int32_t count, bool neighbours, const ForLanes& 
 }
 
 } // namespace zelm
+
+// A kernel as KERNEL of zelmkernel.h makes it, but without copies of its operands. What passes on the address of an
+// operand has its copy in memory, written in wider pieces than the caller has just stored the fields in: that waits for
+// the stores, 10 ns a call.
+#define KERNEL_IN_BLOCKS(KERNEL_NAME, SIG, Y, V, T, ...)                                                               \
+  extern "C" ZelStatus KERNEL_NAME(SIG(V, Y, T)) {                                                                     \
+    using namespace zelm;                                                                                              \
+    return __VA_ARGS__(SIG(NAME, Y, T));                                                                               \
+  }

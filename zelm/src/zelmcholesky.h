@@ -165,6 +165,10 @@ ZELM_NOINLINE bool choleskyFactorBlock(const Source& srcLow, const Source& srcHi
   return true;
 }
 
+// How many objects are done one by one before they would take as long as a block of two vectors full.
+template <class T, class Side> constexpr int fewFactors = 1;
+template <class T, int N> constexpr int fewFactors<T, Fixed<N>> = N > 2 ? (2 * laneCount<T> + N - 1) / N : 1;
+
 // single(k) is object k where a block is not done as a whole.
 template <class Pivots, class Source, class Result, class Side, class Single>
 ZELM_INLINE ZelStatus choleskyFactorBlocks(Pivots, const Source& src, const Result& dst, Side side, int32_t count,
@@ -175,7 +179,7 @@ ZELM_INLINE ZelStatus choleskyFactorBlocks(Pivots, const Source& src, const Resu
   auto sourcesHigh = matrixBlocks(src, side);
   auto resultsLow = matrixBlocks(dst, side);
   auto resultsHigh = matrixBlocks(dst, side);
-  return forBlocks<2 * W, isPointerLayout<Source>>(
+  return forBlocks<2 * W, isPointerLayout<Source>, fewFactors<T, Side>>(
       count, areNeighbours(src) && areNeighbours(dst),
       [&](auto block) ZELM_BODY {
         const auto low = block.template low<W>();
@@ -284,7 +288,10 @@ ZELM_NOINLINE void choleskySolveOne(L* factor, const Right& right, const Result&
   choleskySolveLanes(factor, right, dst, side);
 }
 
-// single(k) is the lone object k.
+template <class T, class Side> constexpr int fewSolutions = 1;
+template <class T, int N> constexpr int fewSolutions<T, Fixed<N>> = N > 2 ? fewSystems<laneCount<T>>(N) : 1;
+
+// single(k) is object k, alone or one of few.
 template <class Factor, class Right, class Result, class Side, class Single>
 ZELM_INLINE ZelStatus choleskySolveBlocks(const Factor& src1, const Right& src2, const Result& dst, Side side,
                                           int32_t count, const Single& single) {
@@ -295,7 +302,7 @@ ZELM_INLINE ZelStatus choleskySolveBlocks(const Factor& src1, const Right& src2,
   if constexpr (Factor::isArray) {
     neighbours = neighbours && areNeighbours(src1);
     auto factors = matrixBlocks(src1, side);
-    return forBlocks<laneCount<T>, isPointerLayout<Result>>(
+    return forBlocks<laneCount<T>, isPointerLayout<Result>, fewSolutions<T, Side>>(
         count, neighbours,
         [&](auto block) ZELM_BODY {
           choleskySolveEach(factors.at(block), rights.at(block), results.at(block), side);

@@ -2,7 +2,7 @@
 #include "zelmcholesky.h"
 
 // clang-format off
-//     kernel  arguments strides type  body  straight-line sides
-KERNEL(ownzelmCholeskyBackSubst_mava_32f,   CHOLESKY_SOLVE_MAVA, S, UNIT, float, choleskySolutions)
-KERNEL(ownzelmCholeskyBackSubst_mava_32f_L, CHOLESKY_SOLVE_MAVA, L, UNIT, float, choleskySolutions)
+//               kernel  arguments strides type  body  straight-line sides
+KERNEL_IN_BLOCKS(ownzelmCholeskyBackSubst_mava_32f,   CHOLESKY_SOLVE_MAVA, S, UNIT, float, choleskySolutions)
+KERNEL_IN_BLOCKS(ownzelmCholeskyBackSubst_mava_32f_L, CHOLESKY_SOLVE_MAVA, L, UNIT, float, choleskySolutions)
 // clang-format on

@@ -18,15 +18,15 @@ struct Single64fP {
 } // namespace zelm
 
 // clang-format off
-//     kernel  arguments strides type  body  pivots
-KERNEL(ownzelmCholeskyDecomp_ma_32f_S2, CHOLESKY_FACTOR_MA, S, ANY, float, choleskyFactors<AboveZero>)
+//               kernel  arguments strides type  body  pivots
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_32f_S2, CHOLESKY_FACTOR_MA, S, ANY, float, choleskyFactors<AboveZero>)
 // Alone with this limit; its sibling in the list layout has none.
-KERNEL(ownzelmCholeskyDecomp_ma_64f_S2, CHOLESKY_FACTOR_MA, S, ANY, double, choleskyFactors<AboveEpsilonFrom6On>)
-KERNEL(ownzelmCholeskyDecomp_ma_32f_LS2, CHOLESKY_FACTOR_MA, L, ANY, float,  choleskyFactors<AboveZero>)
-KERNEL(ownzelmCholeskyDecomp_ma_64f_LS2, CHOLESKY_FACTOR_MA, L, ANY, double, choleskyFactors<AboveZero>)
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_64f_S2, CHOLESKY_FACTOR_MA, S, ANY, double, choleskyFactors<AboveEpsilonFrom6On>)
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_32f_LS2, CHOLESKY_FACTOR_MA, L, ANY, float,  choleskyFactors<AboveZero>)
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_64f_LS2, CHOLESKY_FACTOR_MA, L, ANY, double, choleskyFactors<AboveZero>)
 
 // Sides without straight-line code go to the kernel of the single object.
-//     kernel  arguments strides type  body  single
-KERNEL(ownzelmCholeskyDecomp_ma_32f_P, CHOLESKY_FACTOR_MA, P, ANY, float,  choleskyFactorsBySingle<Single32fP>)
-KERNEL(ownzelmCholeskyDecomp_ma_64f_P, CHOLESKY_FACTOR_MA, P, ANY, double, choleskyFactorsBySingle<Single64fP>)
+//               kernel  arguments strides type  body  single
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_32f_P, CHOLESKY_FACTOR_MA, P, ANY, float,  choleskyFactorsBySingle<Single32fP>)
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_64f_P, CHOLESKY_FACTOR_MA, P, ANY, double, choleskyFactorsBySingle<Single64fP>)
 // clang-format on

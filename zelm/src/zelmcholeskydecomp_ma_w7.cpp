@@ -2,7 +2,7 @@
 #include "zelmcholesky.h"
 
 // clang-format off
-//     kernel  arguments strides type  body  pivots
-KERNEL(ownzelmCholeskyDecomp_ma_64f,   CHOLESKY_FACTOR_MA, S, UNIT, double, choleskyFactors<AboveZero>)
-KERNEL(ownzelmCholeskyDecomp_ma_64f_L, CHOLESKY_FACTOR_MA, L, UNIT, double, choleskyFactors<AboveZero>)
+//               kernel  arguments strides type  body  pivots
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_64f,   CHOLESKY_FACTOR_MA, S, UNIT, double, choleskyFactors<AboveZero>)
+KERNEL_IN_BLOCKS(ownzelmCholeskyDecomp_ma_64f_L, CHOLESKY_FACTOR_MA, L, UNIT, double, choleskyFactors<AboveZero>)
 // clang-format on

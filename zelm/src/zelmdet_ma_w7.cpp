@@ -2,7 +2,7 @@
 #include "zelmdet.h"
 
 // clang-format off
-//     kernel  arguments layout strides type  body
-KERNEL(ownzelmDet_ma_64f,   DET_MA, S, UNIT, double, determinants)
-KERNEL(ownzelmDet_ma_64f_L, DET_MA, L, UNIT, double, determinants)
+//               kernel  arguments layout strides type  body
+KERNEL_IN_BLOCKS(ownzelmDet_ma_64f,   DET_MA, S, UNIT, double, determinants)
+KERNEL_IN_BLOCKS(ownzelmDet_ma_64f_L, DET_MA, L, UNIT, double, determinants)
 // clang-format on

@@ -286,7 +286,7 @@ inline ZelStatus substitutePairs(const A& src1, const Plain<const int32_t>& inde
   auto factors = matrixBlocks(src1, Fixed<N>{});
   auto rights = vectorBlocks(src2);
   auto results = vectorBlocks(dst);
-  return forBlocks<laneCount<T>, isPointerLayout<D>>(
+  return forBlocks<laneCount<T>, isPointerLayout<D>, fewSystems<laneCount<T>>(N)>(
       count, areNeighbours(src1) && areNeighbours(src2) && areNeighbours(dst),
       [&](auto block) ZELM_BODY {
         return substituteBlock<N>(factors.at(block), entriesOf<N, T>(index, block), rights.at(block),

@@ -2,7 +2,7 @@
 #include "zelmlubacksubst.h"
 
 // clang-format off
-//     kernel                         arguments           strides type   body   case
-KERNEL(ownzelmLUBackSubst_mava_32f,   LUBACKSUBST_MAVA, S, UNIT,   float, solveSystems)
-KERNEL(ownzelmLUBackSubst_mava_32f_L, LUBACKSUBST_MAVA, L, UNIT,   float, solveSystems)
+//               kernel                         arguments           strides type   body   case
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mava_32f,   LUBACKSUBST_MAVA, S, UNIT,   float, solveSystems)
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mava_32f_L, LUBACKSUBST_MAVA, L, UNIT,   float, solveSystems)
 // clang-format on

@@ -2,7 +2,7 @@
 #include "zelmlubacksubst.h"
 
 // clang-format off
-//     kernel                         arguments           strides type    body   case
-KERNEL(ownzelmLUBackSubst_mava_64f,   LUBACKSUBST_MAVA, S, UNIT,   double, solveSystems)
-KERNEL(ownzelmLUBackSubst_mava_64f_L, LUBACKSUBST_MAVA, L, UNIT,   double, solveSystems)
+//               kernel                         arguments           strides type    body   case
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mava_64f,   LUBACKSUBST_MAVA, S, UNIT,   double, solveSystems)
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mava_64f_L, LUBACKSUBST_MAVA, L, UNIT,   double, solveSystems)
 // clang-format on

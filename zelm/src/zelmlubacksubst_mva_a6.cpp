@@ -2,7 +2,7 @@
 #include "zelmlubacksubst.h"
 
 // clang-format off
-//     kernel                        arguments          strides type   body   case
-KERNEL(ownzelmLUBackSubst_mva_32f,   LUBACKSUBST_MVA, S, UNIT,   float, solveVectors)
-KERNEL(ownzelmLUBackSubst_mva_32f_L, LUBACKSUBST_MVA, L, UNIT,   float, solveVectors)
+//               kernel                        arguments          strides type   body   case
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mva_32f,   LUBACKSUBST_MVA, S, UNIT,   float, solveVectors)
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mva_32f_L, LUBACKSUBST_MVA, L, UNIT,   float, solveVectors)
 // clang-format on

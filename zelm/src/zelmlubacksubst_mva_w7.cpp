@@ -2,7 +2,7 @@
 #include "zelmlubacksubst.h"
 
 // clang-format off
-//     kernel                        arguments          strides type    body   case
-KERNEL(ownzelmLUBackSubst_mva_64f,   LUBACKSUBST_MVA, S, UNIT,   double, solveVectors)
-KERNEL(ownzelmLUBackSubst_mva_64f_L, LUBACKSUBST_MVA, L, UNIT,   double, solveVectors)
+//               kernel                        arguments          strides type    body   case
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mva_64f,   LUBACKSUBST_MVA, S, UNIT,   double, solveVectors)
+KERNEL_IN_BLOCKS(ownzelmLUBackSubst_mva_64f_L, LUBACKSUBST_MVA, L, UNIT,   double, solveVectors)
 // clang-format on
