@@ -425,7 +425,7 @@ Family family() {
   };
   f.delegate = [](const Member& m, const Sizes& s, bool unit) -> std::string {
     const int n = s.get("widthHeight");
-    if (n == 1)
+    if (n == 1 || (n == 2 && m.hasCount))
       return "";
     if (n == 2 || n > 6)
       return m.layout == 'P' ? (m.hasCount ? "" : m.kernelOfOne("_P_com")) : m.kernelOfOne(unit ? "_com" : "_S2_com");
