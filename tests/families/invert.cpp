@@ -11,6 +11,7 @@
 #include <cmath>
 #include <limits>
 #include <numeric>
+#include <random>
 
 namespace {
 
@@ -511,6 +512,26 @@ TEST(Invert, IdentityOfTwo) {
   std::vector<float> inverse(4);
   EXPECT_EQ(invertOne<float>(zelmInvert_m_32f, {1, 0, 0, 1}, inverse, 2), zelStatusOk);
   EXPECT_EQ(inverse, (std::vector<float>{1, -16 * 0x1p-126f, -16 * 0x1p-126f, 1}));
+}
+
+// Equal magnitudes in column 0: the first is the pivot, in a batch as in a single object.
+template <class T, class Array, class Single> void tiesOfTwo(Array array, Single single) {
+  constexpr int count = 40, e = sizeof(T);
+  std::mt19937 random(2);
+  std::uniform_real_distribution<double> uniform(1, 2);
+  std::vector<T> a(4 * count), inverse(a.size()), expected(4), buffer(6);
+  for (size_t i = 0; i < a.size(); ++i)
+    a[i] = i % 4 == 2 ? (i % 8 == 2 ? a[i - 2] : -a[i - 2]) : static_cast<T>(uniform(random));
+  ASSERT_EQ(zelStatusOk, array(a.data(), 4 * e, 2 * e, e, buffer.data(), inverse.data(), 4 * e, 2 * e, e, 2, count));
+  for (size_t k = 0; k < count; ++k) {
+    ASSERT_EQ(zelStatusOk, invertOne<T>(single, {&a[4 * k], &a[4 * k] + 4}, expected, 2));
+    EXPECT_EQ(expected, std::vector<T>(&inverse[4 * k], &inverse[4 * k] + 4));
+  }
+}
+
+TEST(Invert, TiesOfTwo) {
+  tiesOfTwo<float>(zelmInvert_ma_32f, zelmInvert_m_32f);
+  tiesOfTwo<double>(zelmInvert_ma_64f, zelmInvert_m_64f);
 }
 
 // Equal magnitudes in row 0. A large element below them overflows if its column has the pivot, and nowhere else.
